@@ -1,0 +1,11 @@
+// Binds each menu entry to the command that the core runs for it. One line a command.
+#include "proyecto/comandos.h"
+
+namespace lomaterra {
+
+void EnlazarComandos(std::map<std::string, Acción>& a) {
+  (void)a;
+  // a["MétodoFellenius"] = MétodoFellenius;
+}
+
+}  // namespace lomaterra

@@ -1,0 +1,40 @@
+// The main window's own state, without a toolkit: the coordinate panel's working copy, what the
+// panel holds, the stratum selector, the title, the description and the status line.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lomaterra {
+
+struct PuntoPanel {
+  double X = 0, Y = 0;
+};
+
+struct EstadoVentana {
+  // Coordinate panel: the working copy of one coordinate table, as entered.
+  std::vector<PuntoPanel> ListaCoordenadas;
+  int FilaSeleccionada = 0;  // 1-based, 0 none
+  std::string TextoX, TextoY;
+  int TipoPanel = 1;     // 1 surface, 2 failure surface, 3 phreatic line, 4 stratum
+  int EstratoPanel = 1;  // stratum whose lower line is in the panel
+  std::string EtiquetaCoordenadas = "Coordenadas Talud-Presa-Túnel";
+  // Stratum selector: first row "Seleccione el estrato", then the stratum numbers.
+  std::vector<std::string> ListaEstrato{"Seleccione el estrato"};
+  int EstratoSeleccionado = 0;  // row of ListaEstrato, 0 the prompt
+
+  std::string Título = "[Nuevo proyecto] - Lomaterra";
+  std::string TextoProyecto;
+  std::string NombreArchivo;
+  std::string TextoEstado;
+  bool EntradaCoordenadasAbierta = false;  // the project information has opened coordinate entry
+  bool SalirDelPrograma = false;           // set by the exit command; the window closes
+
+  // Rebuilds ListaEstrato with the numbers 1..n.
+  void ReconstruirListaEstrato(int n);
+};
+
+// Captions of the panel by kind.
+const char* EtiquetaPanel(int tipo);
+
+}  // namespace lomaterra

@@ -1,0 +1,21 @@
+#include "apoyo/apoyo.h"
+
+#include <atomic>
+#include <filesystem>
+#include <unistd.h>
+
+namespace lomaterra::pruebas {
+
+std::string RutaDatos(const std::string& nombre) { return std::string(LOMATERRA_DATOS) + "/" + nombre; }
+std::string RutaEjemplo(const std::string& nombre) { return std::string(LOMATERRA_EJEMPLOS) + "/" + nombre; }
+
+std::string CarpetaTemporal() {
+  static std::atomic<int> cuenta{0};
+  auto ruta = std::filesystem::temp_directory_path() /
+              ("lomaterra-" + std::to_string(::getpid()) + "-" + std::to_string(cuenta++));
+  std::filesystem::remove_all(ruta);
+  std::filesystem::create_directories(ruta);
+  return ruta.string();
+}
+
+}  // namespace lomaterra::pruebas

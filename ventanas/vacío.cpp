@@ -1,0 +1,1 @@
+int lomaterra_ventanas_vacía = 0;
