@@ -37,4 +37,17 @@ struct EstadoVentana {
 // Captions of the panel by kind.
 const char* EtiquetaPanel(int tipo);
 
+struct Proyecto;
+class Interfaz;
+
+// The buttons of the coordinate panel. The view copies TextoX, TextoY and FilaSeleccionada into
+// the state before calling them and shows the state again afterwards.
+void PanelAgregar(Proyecto& p, Interfaz& ui);    // BotónAgregar
+void PanelBorrar(Proyecto& p, Interfaz& ui);     // BotónBorrar
+void PanelModificar(Proyecto& p, Interfaz& ui);  // BotónModificar
+// A stratum chosen in ListaEstrato (row 0 is the prompt).
+void PanelElegirEstrato(Proyecto& p, Interfaz& ui, int fila);
+// TextoProyecto edited by the user.
+void CambiarTextoProyecto(Proyecto& p, const std::string& texto);
+
 }  // namespace lomaterra

@@ -1,1 +1,0 @@
-int lomaterra_ventanas_vacía = 0;
