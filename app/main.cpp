@@ -1,6 +1,42 @@
+// lomaterra: the desktop program. One project, reset at start, in one main window; a project file
+// given on the command line is opened as the Open command opens it.
+#include <clocale>
+#include <memory>
+
 #include <QApplication>
+#include <QStringList>
+
+#include "interfaz_qt.h"
+#include "proyecto/archivo.h"
+#include "proyecto/proyecto.h"
+#include "ventana_principal_qt.h"
+
+using namespace lomaterra;
+
+namespace {
+
+void AbrirAlInicio(Proyecto& p, Interfaz& ui, const std::string& ruta) {
+  if (!LeerProyecto(p, ruta, ui)) return;
+  p.Ventana.NombreArchivo = ruta;
+  p.Ventana.Título = TítuloDeArchivo(ruta) + " - Lomaterra";
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  return 0;
+  QApplication::setApplicationName(QStringLiteral("Lomaterra"));
+  // Numbers are read and written with a point whatever the user's locale.
+  std::setlocale(LC_NUMERIC, "C");
+
+  auto proyecto = std::make_unique<Proyecto>();
+  ReiniciarProyecto(*proyecto);
+  VentanaPrincipalQt ventana(*proyecto);
+  const QStringList argumentos = QApplication::arguments();
+  if (argumentos.size() > 1) {
+    AbrirAlInicio(*proyecto, ventana.interfaz(), S(argumentos[1]));
+    ventana.Refrescar();
+  }
+  ventana.show();
+  return app.exec();
 }
