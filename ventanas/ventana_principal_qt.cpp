@@ -71,6 +71,7 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
 
   líneaEstado_ = new QLabel(this);
   líneaEstado_->setObjectName("LíneaEstado");
+  líneaEstado_->setTextFormat(Qt::PlainText);
   statusBar()->addWidget(líneaEstado_, 1);
   ui_.AlEstado([this](const QString& t) { líneaEstado_->setText(t); });
 
@@ -117,6 +118,7 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
 
   etiquetaCoordenadas_ = new QLabel(panel);
   etiquetaCoordenadas_->setObjectName("EtiquetaCoordenadas");
+  etiquetaCoordenadas_->setTextFormat(Qt::PlainText);
   etiquetaCoordenadas_->setStyleSheet("font-weight: bold;");
   etiquetaCoordenadas_->setWordWrap(true);
   vertical->addWidget(etiquetaCoordenadas_);

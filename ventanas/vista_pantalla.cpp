@@ -1,5 +1,7 @@
 #include "vista_pantalla.h"
 
+#include <algorithm>
+
 #include <QFormLayout>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -90,20 +92,23 @@ void VistaPantalla::Construir() {
         formulario->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
         formulario->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
         formulario->setVerticalSpacing(6);
-        fila->addLayout(formulario, 1);
+        fila->addLayout(formulario);
       }
       const Campo& c = pantalla_.campos[i];
       auto* caja = new QLineEdit(cuerpo_);
       caja->setObjectName(Q(c.nombre));
       caja->setMinimumWidth(150);
+      caja->setMaximumWidth(320);
       auto* etiqueta = new QLabel(cuerpo_);
       etiqueta->setObjectName(Q("Etiqueta:" + c.nombre));
       etiqueta->setBuddy(caja);
       etiqueta->setWordWrap(false);
+      etiqueta->setTextFormat(Qt::PlainText);  // captions such as "Suelo o roca <S>:" are not markup
       formulario->addRow(etiqueta, caja);
       cajas_.push_back(caja);
       etiquetas_.push_back(etiqueta);
     }
+    fila->addStretch(1);
     vertical->addLayout(fila);
   }
 
@@ -148,7 +153,6 @@ void VistaPantalla::Construir() {
       auto* botón = new QPushButton(cuerpo_);
       botón->setObjectName(Q(b.nombre));
       botón->setAutoDefault(false);
-      botón->setMinimumWidth(96);
       const std::string nombre = b.nombre;
       connect(botón, &QPushButton::clicked, this, [this, nombre] { Pulsar(nombre); });
       fila->addWidget(botón);
@@ -213,7 +217,11 @@ void VistaPantalla::Refrescar() {
     }
   }
 
-  for (std::size_t b = 0; b < botones_.size(); ++b) botones_[b]->setText(Q(pantalla_.botones[b].texto));
+  for (std::size_t b = 0; b < botones_.size(); ++b) {
+    QPushButton* botón = botones_[b];
+    botón->setText(Q(pantalla_.botones[b].texto));
+    botón->setMinimumWidth(std::max(96, botón->sizeHint().width()));
+  }
   refrescando_ = false;
 }
 
