@@ -51,19 +51,22 @@ void Preparar(QMessageBox& caja, const std::string& texto, const std::string& t�
 
 FiltroQt ConvertirFiltro(const std::string& filtro, int índice) {
   const QStringList partes = Q(filtro).split('|');
-  QStringList filtros;
+  QStringList filtros, extensiones;
   for (int i = 0; i + 1 < partes.size(); i += 2) {
     QString título = partes[i].trimmed();
     const QString patrón = partes[i + 1].trimmed().replace(';', ' ');
     // Qt reads the patterns from the parentheses of the caption; add them when missing.
     if (!título.contains('(')) título += " (" + patrón + ")";
     filtros << título;
+    const QString primero = patrón.section(' ', 0, 0);
+    extensiones << (primero.startsWith("*.") && !primero.mid(1).contains('*') ? primero.mid(2) : QString());
   }
   if (filtros.isEmpty() && !filtro.empty()) filtros << Q(filtro);
   FiltroQt r;
   r.filtros = filtros.join(";;");
-  if (índice >= 1 && índice <= filtros.size()) r.seleccionado = filtros[índice - 1];
-  else if (!filtros.isEmpty()) r.seleccionado = filtros.front();
+  const int elegido = índice >= 1 && índice <= filtros.size() ? índice - 1 : 0;
+  if (elegido < filtros.size()) r.seleccionado = filtros[elegido];
+  if (elegido < extensiones.size()) r.extensión = extensiones[elegido];
   return r;
 }
 
@@ -149,10 +152,14 @@ std::optional<std::string> InterfazQt::ElegirArchivoAbrir(const std::string& fil
 
 std::optional<std::string> InterfazQt::ElegirArchivoGuardar(const std::string& filtro, int índice) {
   if (sustituto_) return sustituto_->ElegirArchivoGuardar(filtro, índice);
-  FiltroQt f = ConvertirFiltro(filtro, índice);
-  const QString ruta = QFileDialog::getSaveFileName(Padre(), QStringLiteral("Guardar como"), QString(), f.filtros, &f.seleccionado);
-  if (ruta.isEmpty()) return std::nullopt;
-  return S(QDir::toNativeSeparators(ruta));
+  const FiltroQt f = ConvertirFiltro(filtro, índice);
+  QFileDialog diálogo(Padre(), QStringLiteral("Guardar como"), QString(), f.filtros);
+  diálogo.setAcceptMode(QFileDialog::AcceptSave);
+  diálogo.selectNameFilter(f.seleccionado);
+  // A name typed without extension under "Archivos de coordenadas (*.cod)" is saved as .cod.
+  diálogo.setDefaultSuffix(f.extensión);
+  if (diálogo.exec() != QDialog::Accepted || diálogo.selectedFiles().isEmpty()) return std::nullopt;
+  return S(QDir::toNativeSeparators(diálogo.selectedFiles().front()));
 }
 
 void InterfazQt::CarpetasDeAyuda(const QStringList& carpetas) { Carpetas() = carpetas; }
@@ -179,10 +186,13 @@ void InterfazQt::Ayuda(const std::string& archivo) {
     Mensaje("No se encontró el archivo de ayuda " + TítuloDeArchivo(archivo) + ".", "Ayuda");
     return;
   }
-  QDialog* ayuda = CrearVentanaAyuda(ruta, ventana_);
-  ayuda->setAttribute(Qt::WA_DeleteOnClose);
-  ayuda->show();
-  ayuda->raise();
+  if (!ayuda_) {
+    ayuda_ = CrearVentanaAyuda(ruta, ventana_);
+    ayuda_->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  ayuda_->show();
+  ayuda_->raise();
+  ayuda_->activateWindow();
 }
 
 void InterfazQt::AcercaDe(const std::string& título, const std::string& texto) {

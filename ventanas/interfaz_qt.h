@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include <QDialog>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -24,6 +26,7 @@ class VistaPantalla;
 struct FiltroQt {
   QString filtros;      // "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)"
   QString seleccionado; // the filter of the given 1-based index
+  QString extensión;    // "cod": the extension of the selected filter, empty for "*.*"
 };
 // "Nombre (*.x)|*.x|Otro (*.y)|*.y" -> pairs of caption and pattern in Qt form.
 FiltroQt ConvertirFiltro(const std::string& filtro, int índice);
@@ -73,6 +76,7 @@ class InterfazQt : public Interfaz {
   std::function<void(const QString&)> alEstado_;
   Interfaz* sustituto_ = nullptr;
   std::function<void(VistaPantalla&)> alMostrar_;
+  QPointer<QDialog> ayuda_;  // one help window, raised again when asked for again
 };
 
 // QString from and to the UTF-8 strings of the core.

@@ -21,8 +21,10 @@ namespace lomaterra {
 
 namespace {
 
-// Fields beyond this count are laid out in two columns.
+// Fields beyond this count are laid out in two columns, and beyond twice as many in three.
 constexpr std::size_t kCamposPorColumna = 10;
+// Tables of more columns than this size their columns to the contents and may scroll sideways.
+constexpr int kColumnasAjustadas = 9;
 
 const char* kEstiloSoloLectura = "QLineEdit[readOnly=\"true\"] { background: #ececec; color: #505050; }";
 
@@ -83,7 +85,7 @@ void VistaPantalla::Construir() {
   if (n > 0) {
     auto* fila = new QHBoxLayout;
     fila->setSpacing(24);
-    const std::size_t columnas = n > kCamposPorColumna ? 2 : 1;
+    const std::size_t columnas = std::min<std::size_t>(3, (n + kCamposPorColumna - 1) / kCamposPorColumna);
     const std::size_t porColumna = (n + columnas - 1) / columnas;
     QFormLayout* formulario = nullptr;
     for (std::size_t i = 0; i < n; ++i) {
@@ -127,10 +129,16 @@ void VistaPantalla::Construir() {
     tabla->setAlternatingRowColors(true);
     tabla->verticalHeader()->setVisible(false);
     tabla->verticalHeader()->setDefaultSectionSize(22);
-    tabla->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     tabla->horizontalHeader()->setMinimumSectionSize(70);
     tabla->setMinimumHeight(170);
-    tabla->setMinimumWidth(std::max<int>(360, 95 * tabla->columnCount()));
+    if (tabla->columnCount() > kColumnasAjustadas) {
+      tabla->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+      tabla->horizontalHeader()->setStretchLastSection(true);
+      tabla->setMinimumWidth(900);
+    } else {
+      tabla->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+      tabla->setMinimumWidth(std::max<int>(360, 95 * tabla->columnCount()));
+    }
     connect(tabla, &QTableWidget::itemSelectionChanged, this, [this, l, tabla] {
       if (refrescando_) return;
       const auto elegidas = tabla->selectionModel()->selectedRows();

@@ -24,22 +24,25 @@ TEST(FiltroQtPrueba, ConvierteLosFiltrosYEligeElIndicado) {
     int índice;
     const char* filtros;
     const char* seleccionado;
+    const char* extensión;
   };
+  const char* const dos = "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)";
   const Caso casos[] = {
-      {kFiltroCod, 2, "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)", "Archivos de coordenadas (*.cod)"},
-      {kFiltroCod, 1, "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)", "Todos los archivos (*.*)"},
+      {kFiltroCod, 2, dos, "Archivos de coordenadas (*.cod)", "cod"},
+      {kFiltroCod, 1, dos, "Todos los archivos (*.*)", ""},
       // An index out of range falls back on the first filter.
-      {kFiltroCod, 0, "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)", "Todos los archivos (*.*)"},
-      {kFiltroCod, 3, "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)", "Todos los archivos (*.*)"},
+      {kFiltroCod, 0, dos, "Todos los archivos (*.*)", ""},
+      {kFiltroCod, 3, dos, "Todos los archivos (*.*)", ""},
       // A caption without its patterns gets them, since Qt reads them from the caption.
-      {"Proyectos|*.cod", 1, "Proyectos (*.cod)", "Proyectos (*.cod)"},
-      {"Textos|*.txt;*.cod", 1, "Textos (*.txt *.cod)", "Textos (*.txt *.cod)"},
+      {"Proyectos|*.cod", 1, "Proyectos (*.cod)", "Proyectos (*.cod)", "cod"},
+      {"Textos|*.txt;*.cod", 1, "Textos (*.txt *.cod)", "Textos (*.txt *.cod)", "txt"},
   };
   for (const Caso& c : casos) {
-    SCOPED_TRACE(c.filtro);
+    SCOPED_TRACE(std::string(c.filtro) + " " + std::to_string(c.índice));
     const FiltroQt f = ConvertirFiltro(c.filtro, c.índice);
     EXPECT_EQ(S(f.filtros), c.filtros);
     EXPECT_EQ(S(f.seleccionado), c.seleccionado);
+    EXPECT_EQ(S(f.extensión), c.extensión);
   }
 }
 

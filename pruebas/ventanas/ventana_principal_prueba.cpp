@@ -20,6 +20,7 @@
 #include "proyecto/proyecto.h"
 #include "ventana_apoyo.h"
 #include "ventana_principal_qt.h"
+#include "vista_pantalla.h"
 #include "vista_seccion.h"
 
 namespace lomaterra {
@@ -227,6 +228,100 @@ TEST_F(VentanaPrueba, FelleniusDesdeSuMenúSobreLaMuestra) {
   ASSERT_FALSE(guion.Textos().empty());
   EXPECT_EQ(guion.Textos().front(), "Está analizando desembalse rápido en presas de tierra?");
   EXPECT_EQ(ventana.windowTitle(), "talud_de_muestra.cod - Lomaterra");
+}
+
+}  // namespace
+}  // namespace lomaterra
+
+namespace lomaterra {
+namespace {
+
+// The project information through the real registry: the menu opens Form15 in the generic view,
+// the boxes typed by the user reach its checks, and its answer is shown by the window.
+TEST_F(VentanaPrueba, LaInformaciónDelProyectoDesdeSuMenú) {
+  const auto árbol = ÁrbolDeMenús();
+  const EntradaMenú* e = BuscarEntrada(árbol, "MenúInformación");
+  ASSERT_NE(e, nullptr);
+  if (!e->acción) GTEST_SKIP() << "MenúInformación aún no está enlazado";
+  VentanaPrincipalQt ventana(p, árbol);
+  InterfazGuionada guion;
+  ventana.interfaz().Sustituto(&guion);
+  std::string vista;
+  bool abiertaTrasElAviso = false;
+  ventana.interfaz().AlMostrar([&](VistaPantalla& v) {
+    vista = S(v.objectName());
+    auto escribir = [&](const char* nombre, const char* valor) {
+      auto* caja = v.findChild<QLineEdit*>(QString::fromUtf8(nombre));
+      ASSERT_NE(caja, nullptr) << nombre;
+      caja->setText(QString::fromUtf8(valor));
+    };
+    escribir("TextoProgresivaInicial", "1+001.00");
+    escribir("TextoProgresivaFinal", "1+050.00");
+    escribir("TextoFechaProyecto", "30 / 12/ 1999");
+    escribir("TextoIngResponsable", "Ing. Pérez");
+    escribir("TextoDeAnálisis", "t");
+    auto* aceptar = v.findChild<QPushButton*>(QString::fromUtf8("BotónAceptar"));
+    ASSERT_NE(aceptar, nullptr);
+    aceptar->click();  // the company is missing
+    abiertaTrasElAviso = v.isVisible();
+    escribir("TextoEmpresa", "Geotecnia Andina");
+    aceptar->click();
+  });
+  ventana.findChild<QAction*>(QString::fromUtf8("MenúInformación"))->trigger();
+  EXPECT_EQ(vista, "Form15");
+  EXPECT_TRUE(abiertaTrasElAviso);
+  ASSERT_EQ(guion.Transcripción().size(), 1u);
+  EXPECT_EQ(InterfazGuionada::Línea(guion.Transcripción()[0]),
+            "[mensaje] Progresiva final | Debe dar un nombre para la Empresa encargada del proyecto");
+  EXPECT_TRUE(p.InformaciónDada);
+  EXPECT_EQ(p.TipoDeAnálisis, "T");
+  EXPECT_EQ(p.InformaciónProyecto.Empresa, "Geotecnia Andina");
+}
+
+// Every screen that a menu command opens on the sample project is rendered whole: a box for each
+// field, a table for each list and a button for each button, found by their control names.
+TEST_F(VentanaPrueba, CadaPantallaQueAbreUnMenúSeMuestraCompleta) {
+  struct Corte {};
+  ProyectoDeMuestra(p);
+  int pantallas = 0;
+  for (const EntradaMenú& e : ÁrbolDeMenús()) {
+    if (!e.acción || e.nombre == "MenúArchivoSalir") continue;
+    Proyecto copia = p;
+    InterfazGuionada guion;
+    InterfazQt ui;
+    ui.Sustituto(&guion);
+    ui.AlMostrar([&](VistaPantalla& v) {
+      ++pantallas;
+      const Pantalla& s = v.pantalla();
+      SCOPED_TRACE(e.nombre + " -> " + s.nombre);
+      for (const Campo& c : s.campos) {
+        auto* caja = v.findChild<QLineEdit*>(Q(c.nombre));
+        ASSERT_NE(caja, nullptr) << c.nombre;
+        EXPECT_EQ(S(caja->text()), c.valor);
+        EXPECT_EQ(caja->isReadOnly(), c.soloLectura);
+      }
+      for (const ListaPantalla& l : s.listas) {
+        auto* tabla = v.findChild<QTableWidget*>(Q(l.nombre));
+        ASSERT_NE(tabla, nullptr) << l.nombre;
+        EXPECT_EQ(tabla->columnCount(), static_cast<int>(l.columnas.size()));
+        EXPECT_EQ(tabla->rowCount(), static_cast<int>(l.filas.size()));
+      }
+      for (const BotónPantalla& b : s.botones) {
+        auto* botón = v.findChild<QPushButton*>(Q(b.nombre));
+        ASSERT_NE(botón, nullptr) << b.nombre;
+        EXPECT_EQ(S(botón->text()), b.texto);
+      }
+      throw Corte{};  // one look is enough; the command ends here
+    });
+    try {
+      EjecutarComando(e.acción, copia, ui);
+    } catch (const Corte&) {
+    }
+  }
+  // The entry screens on the sample: information, strata, stretches, loads, constants.
+  if (BuscarEntrada(ÁrbolDeMenús(), "MenúInformación")->acción) {
+    EXPECT_GE(pantallas, 5);
+  }
 }
 
 }  // namespace
