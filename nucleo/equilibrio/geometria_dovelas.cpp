@@ -69,6 +69,7 @@ void GeneraciónDeDovelas(Proyecto& p, Interfaz& ui) {
     const double a = t.Quiebres[k], b = t.Quiebres[k + 1];
     if (!(a > b)) continue;
     const double q = Div(a - b, w, "el ancho de las dovelas");
+    if (q > 32000) throw FalloAritmético("el número de dovelas");
     const double m = std::floor(q), fr = q - m;
     if (q <= 1) {
       añadir(a - w * q);
