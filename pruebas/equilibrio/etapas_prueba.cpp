@@ -206,6 +206,36 @@ TEST_F(SuperficieRecta, ElNivelFreáticoSigueAlTaludBajoSuÚltimoPuntoYNoSeEscri
   EXPECT_NEAR(d.BordeYFreático[5], 12, 1e-12);
 }
 
+TEST_F(SuperficieRecta, UnaSolaPasadaDeIntercambiosDejaFueraDeOrdenLoQueEstáLejos) {
+  // Crossings found as 3, 5, 8 (three strata). One pass of neighbour exchanges gives 5, 8, 3:
+  // the 8 moves one place only.
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{10, 5}, {0, 0}});
+  p.ParámetrosIniciales.NúmeroDovelas = 5;
+  auto& t = p.Trabajo;
+  t.NúmeroIntersecciones = 3;
+  t.XIntersección.Redimensionar(3);
+  t.EstratoCruce.Redimensionar(3);
+  t.PendienteFallaCruce.Redimensionar(3);
+  t.PendienteEstratoCruce.Redimensionar(3);
+  const double x[] = {3, 5, 8};
+  for (long r = 1; r <= 3; ++r) {
+    t.XIntersección[r] = x[r - 1];
+    t.EstratoCruce[r] = static_cast<Entero>(r);
+    t.PendienteFallaCruce[r] = 0.5;
+  }
+  ListaDeQuiebres(p);
+  EXPECT_EQ(t.XIntersección[1], 5);
+  EXPECT_EQ(t.XIntersección[2], 8);
+  EXPECT_EQ(t.XIntersección[3], 3);
+  EXPECT_EQ(t.EstratoCruce[2], 3);
+  ASSERT_EQ(t.NúmeroQuiebres, 5);
+  EsperarCerca({t.Quiebres[1], t.Quiebres[2], t.Quiebres[3], t.Quiebres[4], t.Quiebres[5]}, {10, 5, 8, 3, 0});
+  // W = 10/5 = 2. 10→5: edges 8, 6 and 5 (the rest 0.5·W). 5→8 is passed over. 8→3: the first
+  // edge 6 is not below 5, so the pair is abandoned. 3→0: 1 and 0.
+  GeneraciónDeDovelas(p, ui);
+  EsperarCerca(Bordes(p), {10, 8, 6, 5, 1, 0});
+}
+
 // ---------------------------------------------------------------- several stretches
 
 TEST(VariosTramos, UnTramoPolinómicoCruzaUnEstratoPorLaSecante) {

@@ -258,6 +258,19 @@ TEST(FelleniusCircular, SinSismoNiCargasEsLaSumaDeResistenciasSobreLaDeMomentos)
   const std::vector<Apunte> esperado = {{"pregunta", "", kDesembalse, "N"}, {"mensaje", "", kFinal, ""}};
   EXPECT_EQ(ui.Transcripción(), esperado);
   EXPECT_TRUE(p.TodasLasEtapas());
+
+  // A second run asked to rebuild the slices finds the pressures of the first and asks about them.
+  InterfazGuionada otra("NSS");
+  ASSERT_EQ(EjecutarComando(MétodoFellenius, p, otra), FinDeComando::Normal);
+  const std::vector<Apunte> segunda = {
+      {"pregunta", "", kDesembalse, "N"},
+      {"pregunta", "", kPrimeraVez, "S"},
+      {"pregunta", "",
+       "Ya existen presión de poros. ¿Desea estimarlas a partir de las coordenadas del nivel freático?", "S"},
+      {"mensaje", "", kFinal, ""}};
+  EXPECT_EQ(otra.Transcripción(), segunda);
+  EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[1], resistente / motor, 1e-9);
+  EXPECT_EQ(p.NúmeroIteraciones, 1);
 }
 
 TEST(FelleniusCircular, UnRadioMenorQueMediaCuerdaTerminaLimpioSinColgarse) {
