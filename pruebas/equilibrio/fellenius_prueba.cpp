@@ -221,6 +221,39 @@ TEST_F(TresDovelas, LaBaseSubeDeLaPrimeraALaÚltimaYLosÁngulosSeTomanAbsolutos)
   EXPECT_NEAR(p.TablaDovelas.ÁnguloBase[3], std::atan(1.0), 1e-12);
 }
 
+TEST(MomentoDeCargas, SobreElCentroDelArcoOSobreElPuntoDeReferencia) {
+  // One slice between edges 6 and 3 (middle 4.5, width 3, surface at 8 with slope 0.2); a uniform
+  // load over 3..6 (qx 0.5, qy 2); a point load (1, 3) at (5, 8.5) and another at x = 7, outside;
+  // crack from height 10 with water 3 m deep: push 0.5·3² = 4.5 at 10 + 3/3 = 11.
+  Proyecto p = ProyectoDeSuelo(3);
+  p.NúmeroBordes = 2;
+  auto& d = p.TablaDovelas;
+  d.BordeX.Redimensionar(2);
+  d.BordeX[1] = 6, d.BordeX[2] = 3;
+  for (Tabla<double>* c : {&d.XMedio, &d.Ancho, &d.YTalud, &d.PendienteTalud}) c->Redimensionar(1);
+  d.XMedio[1] = 4.5, d.Ancho[1] = 3, d.YTalud[1] = 8, d.PendienteTalud[1] = 0.2;
+  p.NúmeroCargasUniformes = 1, p.CargasUniformesDadas = true;
+  p.CargaUniforme.Redimensionar(1);
+  p.CargaUniforme.xo[1] = 3, p.CargaUniforme.xf[1] = 6, p.CargaUniforme.qx[1] = 0.5, p.CargaUniforme.qy[1] = 2;
+  p.NúmeroCargasPuntuales = 2, p.CargasPuntualesDadas = true;
+  p.CargaPuntual.Redimensionar(2);
+  p.CargaPuntual.Xpuntual[1] = 5, p.CargaPuntual.Ypuntual[1] = 8.5, p.CargaPuntual.Px[1] = 1, p.CargaPuntual.Py[1] = 3;
+  p.CargaPuntual.Xpuntual[2] = 7, p.CargaPuntual.Px[2] = 50, p.CargaPuntual.Py[2] = 50;
+  p.GrietaTracción.OrdenadaSegundoPunto = 10, p.GrietaTracción.OrdenadaNF = 13, p.GrietaTracción.EmpujeGrieta = 4.5;
+
+  // Circular, centre (2, 20); the point given is not used:
+  //   -3·0.5·0.2·(20 - 8) + 3·2·(4.5 - 2) + (5 - 2)·3 - (20 - 8.5)·1 + (20 - 11)·4.5
+  //   = -3.6 + 15 - 2.5 + 40.5 = 49.4
+  PonerTramos(p, {{1, 2, "C"}});
+  p.ParámetrosIniciales.CentroX = 2, p.ParámetrosIniciales.CentroY = 20;
+  EXPECT_NEAR(MomentoDeCargas(p, 100, 100, 1), 49.4, 1e-12);
+  // Other surface, about (4, 12):
+  //   3·0.5·0.2·(8 - 12) + 3·2·(4.5 - 4) + (5 - 4)·3 + (8.5 - 12)·1 + (12 - 11)·4.5
+  //   = -1.2 + 3 - 0.5 + 4.5 = 5.8
+  PonerTramos(p, {{1, 2, "L"}, {2, 3, "L"}});
+  EXPECT_NEAR(MomentoDeCargas(p, 4, 12, 1), 5.8, 1e-12);
+}
+
 // ---------------------------------------------------------------- circular surface, whole run
 
 TEST(FelleniusCircular, SinSismoNiCargasEsLaSumaDeResistenciasSobreLaDeMomentos) {
@@ -271,6 +304,38 @@ TEST(FelleniusCircular, SinSismoNiCargasEsLaSumaDeResistenciasSobreLaDeMomentos)
   EXPECT_EQ(otra.Transcripción(), segunda);
   EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[1], resistente / motor, 1e-9);
   EXPECT_EQ(p.NúmeroIteraciones, 1);
+}
+
+TEST(FelleniusCircular, ElSismoTomaSuBrazoDelDobleDeLaOrdenadaDelCentroMenosLaAltura) {
+  // One slice 2 m wide, middle at 6 under an arc of radius 10 centred at (0, 10): sin α = 0.6,
+  // cos α = 0.8, base at 10 - 8 = 2, surface at 6 (h = 4), γ = 2, u = 1, c = 1, tan φ = 0.5;
+  // kh = 0.2, kv = 0.1; crack water 2 m deep over its lower point at 6: push 2, at 6 + 2/3.
+  //   W = 4·2·2 = 16, ℓ = 2/0.8 = 2.5, N = 1.1·16·0.8 - 16·0.2·0.6 = 12.16
+  //   resisting: (12.16 - 2.5)·0.5 + 2.5 = 7.33, less the crack 2·0.6·0.5 = 0.6: 6.73
+  //   driving: (2·10 - 4)·(0.2·0.5·16) + 1.1·16·10·0.6 = 25.6 + 105.6, crack (10 - 6.6667)·2
+  Proyecto p = ProyectoDeSuelo(1);
+  PonerTramos(p, {{1, 2, "C"}});
+  auto& pi = p.ParámetrosIniciales;
+  pi.Radio = 10, pi.CentroX = 0, pi.CentroY = 10;
+  pi.CoeficienteSísmicoHorizontal = 0.2, pi.CoeficienteSísmicoVertical = 0.1;
+  p.GrietaTracción.OrdenadaSegundoPunto = 6, p.GrietaTracción.OrdenadaNF = 8, p.GrietaTracción.EmpujeGrieta = 2;
+  p.NúmeroBordes = 2;
+  auto& d = p.TablaDovelas;
+  d.BordeX.Redimensionar(2);
+  d.BordeX[1] = 7, d.BordeX[2] = 5;
+  for (Tabla<double>* c : {&d.XMedio, &d.YTalud, &d.YBase, &d.PesoUnitarioMedio, &d.PresiónPoros, &d.CohesiónBase,
+                           &d.TanFricciónBase, &d.PendienteTalud, &d.PendienteBase, &d.AlturaAguaSobreTalud, &d.Ancho})
+    c->Redimensionar(1);
+  d.XMedio[1] = 6, d.YTalud[1] = 6, d.YBase[1] = 2, d.PesoUnitarioMedio[1] = 2, d.PresiónPoros[1] = 1;
+  d.CohesiónBase[1] = 1, d.TanFricciónBase[1] = 0.5, d.Ancho[1] = 2;
+  p.Trabajo.YPrimerPuntoFalla = 10, p.Trabajo.YÚltimoPuntoFalla = 0;
+  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = true;
+  p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = true;
+  InterfazGuionada ui("NN");
+  ASSERT_EQ(EjecutarComando(MétodoFellenius, p, ui), FinDeComando::Normal);
+  EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[1], 6.73 / (25.6 + 105.6 + 20.0 / 3), 1e-12);
+  EXPECT_NEAR(d.FuerzaNormal[1], 12.16, 1e-12);
+  EXPECT_NEAR(d.ÁnguloBase[1], std::asin(0.6), 1e-12);
 }
 
 TEST(FelleniusCircular, UnRadioMenorQueMediaCuerdaTerminaLimpioSinColgarse) {
