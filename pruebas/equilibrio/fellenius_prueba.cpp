@@ -214,6 +214,32 @@ TEST_F(TresDovelas, UnaSumaMotoraNulaTerminaConElMensajeDeFalloYSinGuardarNada) 
   EXPECT_EQ(p.SumaTangenciales, 4);
 }
 
+TEST_F(TresDovelas, UnAnchoNuloOUnaBaseFueraDelArcoTerminanSinGuardarNada) {
+  struct Caso {
+    const char* detalle;
+    void (*preparar)(Proyecto&);
+  };
+  const Caso casos[] = {
+      {"división por cero en el esfuerzo normal", [](Proyecto& q) { q.TablaDovelas.Ancho[2] = 0; }},
+      {"raíz cuadrada de un número negativo en el ángulo de la base",
+       [](Proyecto& q) {
+         // An arc of radius 2 about (0, 10): the middle at 7.5 lies outside it.
+         PonerTramos(q, {{1, 2, "C"}});
+         q.ParámetrosIniciales.Radio = 2, q.ParámetrosIniciales.CentroY = 10;
+       }},
+  };
+  for (const Caso& c : casos) {
+    SetUp();
+    c.preparar(p);
+    p.TablaDovelas.FuerzaNormal.Redimensionar(3);
+    InterfazGuionada ui("NN");
+    EXPECT_EQ(EjecutarComando(MétodoFellenius, p, ui), FinDeComando::Fallo) << c.detalle;
+    EXPECT_EQ(ui.Transcripción().back().texto, TextoDeFallo(c.detalle));
+    EXPECT_EQ(p.NúmeroIteraciones, 0);
+    for (long i = 1; i <= 3; ++i) EXPECT_EQ(p.TablaDovelas.FuerzaNormal[i], 0);
+  }
+}
+
 TEST_F(TresDovelas, LaBaseSubeDeLaPrimeraALaÚltimaYLosÁngulosSeTomanAbsolutos) {
   p.Trabajo.YPrimerPuntoFalla = 0, p.Trabajo.YÚltimoPuntoFalla = 6;
   InterfazGuionada ui("NN");
