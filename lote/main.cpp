@@ -83,7 +83,9 @@ class InterfazLote : public InterfazGuionada {
 };
 
 int UsoIncorrecto(const std::string& mensaje) {
-  std::cerr << "lomaterra-lote: " << mensaje << "\n\n" << kUso;
+  const std::string uso = kUso;
+  std::cerr << "lomaterra-lote: " << mensaje << "\n" << uso.substr(0, uso.find('\n') + 1)
+            << "Escriba lomaterra-lote --ayuda para ver todas las opciones.\n";
   return kUsoIncorrecto;
 }
 
