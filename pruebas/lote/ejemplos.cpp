@@ -121,7 +121,7 @@ Proyecto TaludHomogéneo() {
   return Terminar(p);
 }
 
-// A compacted fill (letter "A", parameter B 0.3, Cv 0.002 cm2/s, built in 4 months) over a clay
+// A compacted fill (letter "A", parameter B 0.3, no consolidation considered) over a clay
 // and a dense sand; a phreatic line; a polyline failure surface whose upper end is the foot of a
 // tension crack 3 m deep with 1.5 m of water (thrust 0.5 x 1.5² = 1.125 t/m); a strip load of
 // 2 t/m2 and a line load of 5 t/m on the crest.
@@ -134,7 +134,7 @@ Proyecto TaludEstratificado() {
   Tramos(p, {{1, 2, "L"}, {2, 3, "L"}, {3, 4, "L"}, {4, 5, "L"}});
   Puntos(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{46, 18.5}, {38, 15}, {24, 11}, {20, 9.8}, {0, 9.5}});
   Estratos(p, {
-                  {1.0, 30, 1.9, 2.05, 1, 0.3, 0.002, 4, {{60, 14}, {28, 14}}},
+                  {1.0, 30, 1.9, 2.05, 1, 0.3, 0, 0, {{60, 14}, {28, 14}}},
                   {2.5, 22, 1.8, 1.95, 0, 0, 0, 0, {{60, 7}, {0, 7}}},
                   {0.5, 34, 1.9, 2.1, 0, 0, 0, 0, {{60, -10}, {0, -10}}},
               });
@@ -158,13 +158,16 @@ Proyecto TaludEstratificado() {
   return Terminar(p);
 }
 
-// A straight stretch down from the crest, an arc between points 2 and 3 fitted to the chords on
-// either side (radius about 13.4 m, centre near (27.3, 20)), and a straight stretch out at the toe.
+// A straight stretch down from the crest to (34, 7), an arc between points 2 and 3 on a level
+// chord, fitted to the chord that follows (radius about 14.2 m, centre near (29, 20.3), lowest at
+// about elevation 6.1), and a straight stretch out at the toe. The arc's chord is level on
+// purpose: an inner edge belongs to the last stretch that accepts it, and a later stretch whose
+// chord descends would also take every edge above its first point.
 Proyecto FallaMixtaC() {
   Proyecto p = Base("Talud homogéneo con superficie de falla mixta: tramo recto, arco circular entre los puntos 2 y 3, "
                     "tramo recto de salida al pie. Método de Fellenius.",
                     "K0+400");
-  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 20}, {38, 12}, {24, 7}, {12, 10}});
+  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 20}, {34, 7}, {24, 7}, {16, 10}});
   Tramos(p, {{1, 2, "L"}, {2, 3, "C"}, {3, 4, "L"}});
   Estratos(p, {{2.0, 27, 1.85, 2.0, 0, 0, 0, 0, {{60, -10}, {0, -10}}}});
   return Terminar(p);
