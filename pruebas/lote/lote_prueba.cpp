@@ -258,6 +258,31 @@ TEST_F(LoteFellenius, JsonVálidoConLaTablaDeDovelas) {
   for (std::size_t i = 0; i < t->lista.size(); ++i) EXPECT_EQ(t->lista[i].texto, r.líneas[i]);
 }
 
+TEST_F(LoteFellenius, FallaNoPrevistaTerminaConUnoYNoSigue) {
+  // An arc between points 2 and 3 whose chord descends: the edges above point 2 also belong to
+  // it, and there the arc of radius about 13 m has no ordinate (the root of a negative number).
+  Proyecto p = TaludHomogéneo();
+  p.NúmeroPuntosFalla = 4;
+  p.CoordenadasFalla.Redimensionar(4);
+  const double x[] = {46, 38, 24, 12}, y[] = {20, 12, 7, 10};
+  for (long i = 1; i <= 4; ++i) { p.CoordenadasFalla.X[i] = x[i - 1]; p.CoordenadasFalla.Y[i] = y[i - 1]; }
+  p.NúmeroTramosFalla = 3;
+  p.TramoFalla.Redimensionar(3);
+  const char* tipos[] = {"L", "C", "L"};
+  for (long i = 1; i <= 3; ++i) { p.TramoFalla.PuntoInicial[i] = i; p.TramoFalla.PuntoFinal[i] = i + 1; p.TramoFalla.TipoUnión[i] = tipos[i - 1]; }
+  const std::string ruta = Guardar(p, "arco_fuera.cod");
+  const std::string copia = carpeta + "/no_se_guarda.cod";
+  const Corrida r = Lote({ruta, "MétodoFellenius", "MétodoFellenius", "--guardar", copia});
+  EXPECT_EQ(r.estado, 1);
+  ASSERT_GE(r.líneas.size(), 3u);
+  EXPECT_EQ(r.líneas[0], std::string("[pregunta]  | ") + kDesembalse + " -> N");
+  EXPECT_EQ(r.líneas[1].rfind("[mensaje] Error en el cálculo | Se produjo una falla aritmética no prevista (", 0), 0u);
+  EXPECT_EQ(r.líneas[2], "--- Resumen ---");  // the second command did not run
+  EXPECT_EQ(r.líneas[3], "FactorDeSeguridad: (sin cálculo)");
+  EXPECT_NE(r.errores.find("MétodoFellenius terminó en falla; los comandos siguientes no se ejecutaron."), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(copia));
+}
+
 // ----- The JSON reader of these tests
 
 TEST(LectorJson, AceptaLoVálidoYRechazaLoDemás) {
