@@ -25,9 +25,6 @@ const char* const kGuardarElementosFinitos =
     "ningún archivo.";
 const char* const kTítuloGuardar = "Guardar proyecto";
 
-// The surface is one arc: exactly one stretch, and it is "C".
-bool UnSoloArco(const Proyecto& p) { return p.NúmeroTramosFalla == 1 && p.TramoFalla.TipoUnión.Leer(1) == "C"; }
-
 // ---------------------------------------------------------------------------------------------
 // Writer
 
@@ -153,7 +150,7 @@ void EscribirCuerpoT(EscritorSecuencial& e, const Proyecto& p) {
   e.Entero(p.NúmeroTramosFalla).Fin();
   for (long i = 1; i <= p.NúmeroTramosFalla; ++i)
     e.Real(p.TramoFalla.PuntoInicial.Leer(i)).Real(p.TramoFalla.PuntoFinal.Leer(i)).Texto(p.TramoFalla.TipoUnión.Leer(i)).Fin();
-  if (UnSoloArco(p) && pi.MétodoDeCálculo == 2) e.Letra(pi.VaríaRadio).Fin();
+  if (p.SuperficieCircular() && pi.MétodoDeCálculo == 2) e.Letra(pi.VaríaRadio).Fin();
   EscribirXY(e, p.CoordenadasFreático, p.NúmeroPuntosFreático);
 
   // Strata
@@ -374,7 +371,7 @@ void LeerCuerpoT(LectorSecuencial& l, Proyecto& p) {
   }
   p.ParámetrosInicialesDados = true;
   p.GeometríaFallaDefinida = true;
-  if (UnSoloArco(p) && pi.MétodoDeCálculo == 2) pi.LetraVaríaRadio = l.LeerLetra(pi.VaríaRadio);
+  if (p.SuperficieCircular() && pi.MétodoDeCálculo == 2) pi.LetraVaríaRadio = l.LeerLetra(pi.VaríaRadio);
   LeerXY(l, p.CoordenadasFreático, p.NúmeroPuntosFreático);
 
   // Strata
