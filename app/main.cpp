@@ -7,21 +7,10 @@
 #include <QStringList>
 
 #include "interfaz_qt.h"
-#include "proyecto/archivo.h"
 #include "proyecto/proyecto.h"
 #include "ventana_principal_qt.h"
 
 using namespace lomaterra;
-
-namespace {
-
-void AbrirAlInicio(Proyecto& p, Interfaz& ui, const std::string& ruta) {
-  if (!LeerProyecto(p, ruta, ui)) return;
-  p.Ventana.NombreArchivo = ruta;
-  p.Ventana.Título = TítuloDeArchivo(ruta) + " - Lomaterra";
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
@@ -34,7 +23,7 @@ int main(int argc, char** argv) {
   VentanaPrincipalQt ventana(*proyecto);
   const QStringList argumentos = QApplication::arguments();
   if (argumentos.size() > 1) {
-    AbrirAlInicio(*proyecto, ventana.interfaz(), S(argumentos[1]));
+    AbrirArchivoDado(*proyecto, ventana.interfaz(), S(argumentos[1]));
     ventana.Refrescar();
   }
   ventana.show();

@@ -95,6 +95,7 @@ void ProyectoDeMuestra(Proyecto& p) {
   w.NombreArchivo = "talud_de_muestra.cod";
   w.Título = "talud_de_muestra.cod - Lomaterra";
   w.ReconstruirListaEstrato(2);
+  w.EntradaCoordenadasAbierta = true;
   CargarPanelCoordenadas(p, 1, 1);
   w.EtiquetaCoordenadas = EtiquetaPanel(1);
   p.DatosGuardados = true;

@@ -20,6 +20,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "proyecto/archivo.h"
 #include "proyecto/compat.h"
 #include "proyecto/proyecto.h"
 #include "vista_seccion.h"
@@ -38,6 +39,13 @@ QPushButton* Botón(const char* nombre, const QString& texto, QWidget* padre) {
 }
 
 }  // namespace
+
+bool AbrirArchivoDado(Proyecto& p, Interfaz& ui, const std::string& ruta) {
+  if (!LeerProyecto(p, ruta, ui)) return false;
+  p.Ventana.NombreArchivo = ruta;
+  p.Ventana.Título = TítuloDeArchivo(ruta) + " - Lomaterra";
+  return true;
+}
 
 VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMenú> árbol, AccionesPanel panel,
                                        QWidget* padre)
@@ -171,6 +179,7 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
   connect(agregar, &QPushButton::clicked, this, [this] { Sincronizar(); Panel(panel_.agregar); });
   connect(borrar, &QPushButton::clicked, this, [this] { Sincronizar(); Panel(panel_.borrar); });
   connect(modificar, &QPushButton::clicked, this, [this] { Sincronizar(); Panel(panel_.modificar); });
+  entradaPanel_ = {textoX_, textoY_, agregar, borrar, modificar};
   // Enter in the Y box adds the point, as the add button does.
   connect(textoY_, &QLineEdit::returnPressed, agregar, &QPushButton::click);
   return panel;
@@ -258,6 +267,7 @@ void VentanaPrincipalQt::Refrescar() {
   if (v.FilaSeleccionada >= 1 && v.FilaSeleccionada <= listaCoordenadas_->rowCount())
     listaCoordenadas_->selectRow(v.FilaSeleccionada - 1);
 
+  for (QWidget* w : entradaPanel_) w->setEnabled(v.EntradaCoordenadasAbierta);
   if (textoX_->text() != Q(v.TextoX)) textoX_->setText(Q(v.TextoX));
   if (textoY_->text() != Q(v.TextoY)) textoY_->setText(Q(v.TextoY));
   if (v.TextoEstado != últimoEstado_) {

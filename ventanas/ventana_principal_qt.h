@@ -34,6 +34,10 @@ struct AccionesPanel {
   std::function<void(Proyecto&, const std::string&)> cambiarTexto = CambiarTextoProyecto;
 };
 
+// Opens the project file given on the command line as the Open command does: the file is read and
+// the window takes its name. False when the file could not be read (the reader has said why).
+bool AbrirArchivoDado(Proyecto& p, Interfaz& ui, const std::string& ruta);
+
 class VentanaPrincipalQt : public QMainWindow {
  public:
   explicit VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMenú> árbol = ÁrbolDeMenús(),
@@ -76,6 +80,7 @@ class VentanaPrincipalQt : public QMainWindow {
   QTableWidget* listaCoordenadas_ = nullptr;
   QLineEdit* textoX_ = nullptr;
   QLineEdit* textoY_ = nullptr;
+  std::vector<QWidget*> entradaPanel_;  // boxes and buttons, open once the project information is given
   QLabel* líneaEstado_ = nullptr;
   VistaSección* dibujo_ = nullptr;
 };

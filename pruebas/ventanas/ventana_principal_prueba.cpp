@@ -14,7 +14,9 @@
 
 #include <gtest/gtest.h>
 
+#include "apoyo/apoyo.h"
 #include "muestra.h"
+#include "proyecto/compat.h"
 #include "proyecto/fallos.h"
 #include "proyecto/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
@@ -95,7 +97,20 @@ TEST_F(VentanaPrueba, UnNuevoProyectoMuestraSuTítuloYUnPanelVacío) {
   EXPECT_FALSE(ventana.dibujo().TieneDibujo());
 }
 
+TEST_F(VentanaPrueba, LaEntradaDelPanelSeAbreConLaInformaciónDelProyecto) {
+  VentanaPrincipalQt ventana(p, ÁrbolDeMenús(), Sustitutos());
+  for (const char* nombre : {"TextoX", "TextoY", "BotónAgregar", "BotónBorrar", "BotónModificar"})
+    EXPECT_FALSE(Hijo<QWidget>(ventana, nombre)->isEnabled()) << nombre;
+  Hijo<QPushButton>(ventana, "BotónAgregar")->click();
+  EXPECT_TRUE(llamadas.empty());
+  p.Ventana.EntradaCoordenadasAbierta = true;
+  ventana.Refrescar();
+  for (const char* nombre : {"TextoX", "TextoY", "BotónAgregar", "BotónBorrar", "BotónModificar"})
+    EXPECT_TRUE(Hijo<QWidget>(ventana, nombre)->isEnabled()) << nombre;
+}
+
 TEST_F(VentanaPrueba, LosBotonesDelPanelLlevanLasCajasYLaFilaAlNúcleoYMuestranElResultado) {
+  p.Ventana.EntradaCoordenadasAbierta = true;
   VentanaPrincipalQt ventana(p, ÁrbolDeMenús(), Sustitutos());
   auto* x = Hijo<QLineEdit>(ventana, "TextoX");
   auto* y = Hijo<QLineEdit>(ventana, "TextoY");
@@ -322,6 +337,37 @@ TEST_F(VentanaPrueba, CadaPantallaQueAbreUnMenúSeMuestraCompleta) {
   if (BuscarEntrada(ÁrbolDeMenús(), "MenúInformación")->acción) {
     EXPECT_GE(pantallas, 5);
   }
+}
+
+}  // namespace
+}  // namespace lomaterra
+
+namespace lomaterra {
+namespace {
+
+// A sample project file opened as the command line opens it, then Fellenius from its menu.
+TEST_F(VentanaPrueba, UnEjemploAbiertoYFelleniusDesdeSuMenú) {
+  InterfazGuionada guion("N");
+  ASSERT_TRUE(AbrirArchivoDado(p, guion, pruebas::RutaEjemplo("talud_homogeneo.cod")));
+  VentanaPrincipalQt ventana(p);
+  ventana.interfaz().Sustituto(&guion);
+  EXPECT_EQ(ventana.windowTitle(), "talud_homogeneo.cod - Lomaterra");
+  EXPECT_TRUE(Hijo<QPlainTextEdit>(ventana, "TextoProyecto")->toPlainText().startsWith("Talud homogéneo"));
+  auto* lista = Hijo<QTableWidget>(ventana, "ListaCoordenadas");
+  ASSERT_EQ(lista->rowCount(), p.NúmeroPuntosTalud);
+  EXPECT_EQ(S(lista->item(0, 0)->text()), Formato(p.CoordenadasTalud.X[1], "#0.00"));
+  EXPECT_TRUE(Hijo<QPushButton>(ventana, "BotónAgregar")->isEnabled());
+
+  QAction* fellenius = ventana.findChild<QAction*>(QString::fromUtf8("MétodoFellenius"));
+  ASSERT_NE(fellenius, nullptr);
+  if (!fellenius->isEnabled()) GTEST_SKIP() << "MétodoFellenius aún no está enlazado";
+  fellenius->trigger();
+  const auto textos = guion.Textos();
+  ASSERT_GE(textos.size(), 2u);
+  EXPECT_EQ(textos.front(), "Está analizando desembalse rápido en presas de tierra?");
+  EXPECT_EQ(textos.back(),
+            "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Fellenius para suelos.");
+  EXPECT_EQ(ventana.windowTitle(), "talud_homogeneo.cod - Lomaterra");
 }
 
 }  // namespace

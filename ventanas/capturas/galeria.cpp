@@ -24,7 +24,6 @@
 #include "ayuda_qt.h"
 #include "interfaz_qt.h"
 #include "muestra.h"
-#include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
 #include "proyecto/interfaz_guionada.h"
 #include "ventana_principal_qt.h"
@@ -164,7 +163,7 @@ int main(int argc, char** argv) {
   ProyectoDeMuestra(muestra);
   if (argumentos.size() > 2) {
     InterfazGuionada mudo;
-    if (!LeerProyecto(muestra, S(argumentos[2]), mudo)) {
+    if (!AbrirArchivoDado(muestra, mudo, S(argumentos[2]))) {
       std::fprintf(stderr, "no se pudo leer %s; se usa el proyecto de muestra\n", argumentos[2].toUtf8().constData());
       ProyectoDeMuestra(muestra);
     }
