@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QStringList>
 
+#include "icono.h"
 #include "interfaz_qt.h"
 #include "proyecto/proyecto.h"
 #include "ventana_principal_qt.h"
@@ -15,6 +16,7 @@ using namespace lomaterra;
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lomaterra"));
+  QApplication::setWindowIcon(IconoLomaterra());
   // Numbers are read and written with a point whatever the user's locale.
   std::setlocale(LC_NUMERIC, "C");
 

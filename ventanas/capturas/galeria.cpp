@@ -22,6 +22,7 @@
 #include <QTextBrowser>
 
 #include "ayuda_qt.h"
+#include "icono.h"
 #include "interfaz_qt.h"
 #include "muestra.h"
 #include "proyecto/comandos.h"
@@ -155,6 +156,7 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   QApplication::setFont(QFont("DejaVu Sans", 9));
+  QApplication::setWindowIcon(IconoLomaterra());
   const QStringList argumentos = QApplication::arguments();
   carpeta = argumentos.size() > 1 ? argumentos[1] : QStringLiteral("galeria");
   QDir().mkpath(carpeta);
@@ -188,6 +190,10 @@ int main(int argc, char** argv) {
     Guardar(*caja, "caja_mensaje");
     auto pregunta = CrearCaja("No ha guardado los datos actuales, ¿desea guardarlos?", "", true, nullptr);
     Guardar(*pregunta, "caja_pregunta");
+    auto acerca = CrearCaja("Lomaterra, versión 0.1.0\nEstabilidad de taludes, presas y túneles en dos dimensiones.",
+                            "Acerca de Lomaterra", false, nullptr);
+    acerca->setIconPixmap(IconoLomaterra().pixmap(64, 64));
+    Guardar(*acerca, "caja_acerca_de");
   }
   {
     const QString ayuda = InterfazQt::BuscarAyuda("AYUDALOMATERRA.HLP");
