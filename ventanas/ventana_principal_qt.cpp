@@ -9,6 +9,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -30,6 +31,15 @@ namespace lomaterra {
 namespace {
 
 const char* const kSalir = "MenúArchivoSalir";
+
+// Keyboard shortcuts of the common file and help commands.
+QKeySequence Atajo(const std::string& nombre) {
+  if (nombre == "ArchivoNuevo") return QKeySequence::New;
+  if (nombre == "MenúArchivoAbrir") return QKeySequence::Open;
+  if (nombre == "MenúArchivoGuardar") return QKeySequence::Save;
+  if (nombre == "MenúAyudaContenido") return QKeySequence::HelpContents;
+  return QKeySequence();
+}
 
 QPushButton* Botón(const char* nombre, const QString& texto, QWidget* padre) {
   auto* b = new QPushButton(texto, padre);
@@ -75,6 +85,7 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
   divisor->setStretchFactor(0, 0);
   divisor->setStretchFactor(1, 1);
   divisor->setChildrenCollapsible(false);
+  divisor->setSizes({300, 880});
   setCentralWidget(divisor);
 
   líneaEstado_ = new QLabel(this);
@@ -109,6 +120,7 @@ void VentanaPrincipalQt::ConstruirMenús() {
     auto* acción = new QAction(Q(e.texto), this);
     acción->setObjectName(Q(e.nombre));
     acción->setEnabled(e.Habilitada());
+    acción->setShortcut(Atajo(e.nombre));
     const std::string nombre = e.nombre;
     connect(acción, &QAction::triggered, this, [this, nombre] { EjecutarMenú(nombre); });
     if (contenedor) contenedor->addAction(acción);
