@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextBrowser>
 #include <QTimer>
+#include <QDialog>
 
 #include <gtest/gtest.h>
 
@@ -113,6 +115,22 @@ TEST_F(InterfazPrueba, ElArchivoDeAyudaSeEncuentraPorSuNombreYEsUnaGuía) {
                            "ton/m2", "Guardar"})
     EXPECT_TRUE(texto.contains(QString::fromUtf8(tema))) << tema;
   EXPECT_TRUE(InterfazQt::BuscarAyuda("NOEXISTE.HLP").isEmpty());
+}
+
+TEST_F(InterfazPrueba, LaAyudaSeMuestraEnUnaSolaVentanaConLaGuía) {
+  QWidget ventana;
+  InterfazQt ui(&ventana);
+  ui.Ayuda("AYUDALOMATERRA.HLP");
+  ui.Ayuda("AYUDALOMATERRA.HLP");  // asked again: the same window comes forward
+  const auto ayudas = ventana.findChildren<QDialog*>("VentanaAyuda");
+  ASSERT_EQ(ayudas.size(), 1);
+  EXPECT_TRUE(ayudas.front()->isVisible());
+  auto* texto = ayudas.front()->findChild<QTextBrowser*>("TextoAyuda");
+  ASSERT_NE(texto, nullptr);
+  const QString guía = texto->toPlainText();
+  EXPECT_TRUE(guía.contains(QString::fromUtf8("Teoría: las fórmulas de cada método")));
+  EXPECT_FALSE(guía.contains("<h2>"));  // shown as a document, not as its markup
+  ayudas.front()->close();
 }
 
 }  // namespace
