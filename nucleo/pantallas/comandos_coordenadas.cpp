@@ -257,10 +257,7 @@ void MenúCoordenadasTalud_Estratos_Nivelfreático_DeArchivo(Proyecto& p, Interf
     return;
   }
   const LecturaLateral r = LeerArchivoTaludEstratosNF(p, RutaArchivoTaludEstratosNF());
-  if (r.abierto) {
-    p.DatosGuardados = false;
-    p.ListaGuardada = false;
-  }
+  if (r.abierto) p.DatosGuardados = false;
   v.ReconstruirListaEstrato(p.NúmeroEstratos);
   mostrarTalud();
   if (!r.error.empty()) ui.Mensaje(r.error, "Archivo de coordenadas");

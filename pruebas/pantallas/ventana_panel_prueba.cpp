@@ -138,6 +138,8 @@ TEST_F(Panel, AbscisasIgualesSeGuardanUnCentésimoMásBajasYElPanelLasMuestraCom
   EXPECT_DOUBLE_EQ(p.CoordenadasTalud.X[3], 4.0);
   MenúCoordenadasTalud(p, ui);  // reloaded from the table: now the stored values show
   EXPECT_EQ(DelPanel(p), (Puntos{{10, 2}, {10 - 0.01, 5}, {4, 0}}));
+  using Filas = std::vector<std::pair<std::string, std::string>>;
+  EXPECT_EQ(FilasCoordenadas(p.Ventana), (Filas{{"10.00", "2.00"}, {"9.99", "5.00"}, {"4.00", "0.00"}}));
 }
 
 TEST_F(Panel, SalirDelPanelPorOtroComandoNoLoPierde) {
