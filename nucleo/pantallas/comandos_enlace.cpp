@@ -3,6 +3,14 @@
 #include "pantallas/comandos_coordenadas.h"
 #include "proyecto/comandos.h"
 
+#include "pantallas/constantes.h"
+#include "pantallas/constantes_elementos.h"
+#include "pantallas/form15.h"
+#include "pantallas/form5.h"
+#include "pantallas/form6.h"
+#include "pantallas/form7.h"
+#include "pantallas/form8.h"
+
 namespace lomaterra {
 
 void EnlazarComandos(std::map<std::string, Acción>& a) {
@@ -21,6 +29,13 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MenúInsertarEstrato"] = MenúInsertarEstrato;
   a["MenúEliminarEstrato"] = MenúEliminarEstrato;
   a["MenúEliminarNivelFreático"] = MenúEliminarNivelFreático;
+  a["MenúInformación"] = MenúInformación;
+  a["CaracterísticasGeomecánicasSuelos"] = CaracterísticasGeomecánicasSuelos;
+  a["MénuGeometríaEntrePuntosSuperficieFalla"] = MénuGeometríaEntrePuntosSuperficieFalla;
+  a["CargasUniformes"] = CargasUniformes;
+  a["CargasPuntuales"] = CargasPuntuales;
+  a["MenúArchivoConstantes"] = MenúArchivoConstantes;
+  a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
 }
 
 }  // namespace lomaterra
