@@ -67,7 +67,8 @@ LecturaLateral LeerArchivoTaludEstratosNF(Proyecto& p, const std::string& ruta) 
   try {
     LeerPuntos(l, p.CoordenadasTalud, p.NúmeroPuntosTalud, LeerCuenta(l, "puntos del talud"));
     parte = "las coordenadas del nivel freático";
-    LeerPuntos(l, p.CoordenadasFreático, p.NúmeroPuntosFreático, LeerCuenta(l, "puntos del nivel freático"));
+    LeerPuntos(l, p.CoordenadasFreático, p.NúmeroPuntosFreático,
+               LeerCuenta(l, "puntos del nivel freático"));
     parte = "los estratos";
     const Entero estratos = LeerCuenta(l, "estratos");
     p.NúmeroEstratos = 0;

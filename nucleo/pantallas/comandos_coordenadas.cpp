@@ -13,7 +13,8 @@ namespace lomaterra {
 namespace {
 
 constexpr const char* kTítuloInformación = "Información requerida";
-constexpr const char* kFaltaInformación = "Debe dar la información del proyecto. Entre al menú 'Archivo'";
+constexpr const char* kFaltaInformación =
+    "Debe dar la información del proyecto. Entre al menú 'Archivo'";
 
 bool InformaciónRequerida(Proyecto& p, Interfaz& ui) {
   if (p.InformaciónDada) return true;
@@ -69,11 +70,26 @@ void CerrarFila(Tabla2<T>& t, long n, long k) {
 template <typename F>
 void CadaColumnaDeEstrato(Proyecto& p, F&& f) {
   TablaEstrato& e = p.Estrato;
-  for (Tabla<double>* t : {&e.Cohesión, &e.Fricción, &e.PesoUnitarioHúmedo, &e.PesoUnitarioSaturado,
-                           &e.ParámetroPresión, &e.CoeficienteConsolidaciónVertical, &e.TiempoDeConstrucción,
-                           &e.m_intacta, &e.Parámetro_GSI, &e.m_macizo, &e.s_macizo, &e.C_Simple,
-                           &e.VelocidadCorte, &e.VelocidadLongitudinal, &e.Poisson, &e.Viscosidad,
-                           &e.ResistenciaMacizo, &e.ModuloMacizo, &e.ResistenciaCorteMacizo, &e.CoeficienteKo})
+  for (Tabla<double>* t : {&e.Cohesión,
+                           &e.Fricción,
+                           &e.PesoUnitarioHúmedo,
+                           &e.PesoUnitarioSaturado,
+                           &e.ParámetroPresión,
+                           &e.CoeficienteConsolidaciónVertical,
+                           &e.TiempoDeConstrucción,
+                           &e.m_intacta,
+                           &e.Parámetro_GSI,
+                           &e.m_macizo,
+                           &e.s_macizo,
+                           &e.C_Simple,
+                           &e.VelocidadCorte,
+                           &e.VelocidadLongitudinal,
+                           &e.Poisson,
+                           &e.Viscosidad,
+                           &e.ResistenciaMacizo,
+                           &e.ModuloMacizo,
+                           &e.ResistenciaCorteMacizo,
+                           &e.CoeficienteKo})
     f(*t);
   f(e.TipoEstrato);
   f(p.Roca.PuntosEnsayo);
@@ -121,7 +137,8 @@ void MenúCoordenadasFreático(Proyecto& p, Interfaz& ui) {
 void MenúCoordenadasEstratos(Proyecto& p, Interfaz& ui) {
   if (!InformaciónRequerida(p, ui)) return;
   if (p.NúmeroEstratos < 1) {
-    ui.Mensaje("Actualmente no hay estratos. Seleccione primero una de las opciones: \nInsertar estrato");
+    ui.Mensaje(
+        "Actualmente no hay estratos. Seleccione primero una de las opciones: \nInsertar estrato");
     return;
   }
   const int elegido = p.Ventana.EstratoSeleccionado;
@@ -132,27 +149,33 @@ void MenúInsertarEstrato(Proyecto& p, Interfaz& ui) {
   if (!InformaciónRequerida(p, ui)) return;
   const char* títuloFalta = "Información por dar::";
   if (!p.CaracterísticasSueloCompletas) {
-    ui.Mensaje("Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
-               "estrato ya insertado para ser considerado como un suelo.",
-               títuloFalta);
+    ui.Mensaje(
+        "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
+        "estrato ya insertado para ser considerado como un suelo.",
+        títuloFalta);
     return;
   }
   if (!p.CaracterísticasRocaCompletas) {
-    ui.Mensaje("Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
-               "estrato ya insertado para ser considerado como una roca.",
-               títuloFalta);
+    ui.Mensaje(
+        "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
+        "estrato ya insertado para ser considerado como una roca.",
+        títuloFalta);
     return;
   }
   if (!p.ParámetrosEstratoCompletos) {
-    ui.Mensaje("Falta darle al programa los Parámetros de los estratos (menú elementos finitos) de un estrato "
-               "ya insertado para el cálculo elástico, viscoplástico o plástico.",
-               títuloFalta);
+    ui.Mensaje(
+        "Falta darle al programa los Parámetros de los estratos (menú elementos finitos) de un "
+        "estrato "
+        "ya insertado para el cálculo elástico, viscoplástico o plástico.",
+        títuloFalta);
     return;
   }
   if (!p.ParámetrosSísmicosCompletos) {
-    ui.Mensaje("Falta darle al programa los Parámetros de los estratos para el cálculo sísmico (menú elementos "
-               "finitos) de un estrato ya insertado.",
-               títuloFalta);
+    ui.Mensaje(
+        "Falta darle al programa los Parámetros de los estratos para el cálculo sísmico (menú "
+        "elementos "
+        "finitos) de un estrato ya insertado.",
+        títuloFalta);
     return;
   }
   // With no strata the new one is stratum 1 and there is nothing to choose.
@@ -176,11 +199,14 @@ void MenúInsertarEstrato(Proyecto& p, Interfaz& ui) {
   v.ReconstruirListaEstrato(p.NúmeroEstratos);
   CargarPanelCoordenadas(p, 4, posición);
   v.EstratoSeleccionado = posición;
-  ui.Mensaje("YA SE INSERTÓ EL ESTRATO: Ahora vaya inmediatamente al menú 'Parámetros y Cargas' y dé las "
-             "'Características Geomecánicas' del estrato insertado. Si trabaja con elementos finitos, vaya "
-             "también al menú 'Elementos finitos' y dé los 'Parámetros de los estratos' y los 'Parámetros de "
-             "los estratos para el cálculo sísmico' del estrato insertado.",
-             "Insertar estrato");
+  ui.Mensaje(
+      "YA SE INSERTÓ EL ESTRATO: Ahora vaya inmediatamente al menú 'Parámetros y Cargas' y dé las "
+      "'Características Geomecánicas' del estrato insertado. Si trabaja con elementos finitos, "
+      "vaya "
+      "también al menú 'Elementos finitos' y dé los 'Parámetros de los estratos' y los 'Parámetros "
+      "de "
+      "los estratos para el cálculo sísmico' del estrato insertado.",
+      "Insertar estrato");
 }
 
 void MenúEliminarEstrato(Proyecto& p, Interfaz& ui) {
@@ -192,8 +218,10 @@ void MenúEliminarEstrato(Proyecto& p, Interfaz& ui) {
   }
   if (!ui.Pregunta("Desea eleminar el estrato que se muestra en pantalla?")) return;
   if (p.TipoDeMaterial.empty()) {
-    ui.Mensaje("Por favor vaya a la opción PARAMETROS INICIALES DE CALCULO e indique si está trabajando en "
-               "SUELO o ROCA");
+    ui.Mensaje(
+        "Por favor vaya a la opción PARAMETROS INICIALES DE CALCULO e indique si está trabajando "
+        "en "
+        "SUELO o ROCA");
     return;
   }
   CerrarFilaDeEstrato(p, s);
@@ -225,7 +253,8 @@ void MenúEliminarNivelFreático(Proyecto& p, Interfaz& ui) {
     return;
   }
   if (v.TipoPanel == 3 && !v.ListaCoordenadas.empty()) {
-    if (!ui.Pregunta("Desea eliminar todas las coordenadas y que serán las correspondientes al nivel freático?"))
+    if (!ui.Pregunta("Desea eliminar todas las coordenadas y que serán las correspondientes al "
+                     "nivel freático?"))
       return;
     v.ListaCoordenadas.clear();
     v.FilaSeleccionada = 0;
@@ -244,15 +273,20 @@ void MenúCoordenadasTalud_Estratos_Nivelfreático_DeArchivo(Proyecto& p, Interf
     v.EstratoSeleccionado = 0;
   };
   if ((p.NúmeroPuntosTalud > 0 || p.NúmeroEstratos > 0) &&
-      !ui.Pregunta("Ya existen coordenadas de la superficie del talud y número de estratos. Desea cargar la "
-                   "geometría del talud, de los estratos y nivel freático, a partir de un archivo ya creado.?")) {
+      !ui.Pregunta(
+          "Ya existen coordenadas de la superficie del talud y número de estratos. Desea cargar la "
+          "geometría del talud, de los estratos y nivel freático, a partir de un archivo ya "
+          "creado.?")) {
     mostrarTalud();
     return;
   }
-  if (!ui.Pregunta("Existe una carpeta ya creada en c:\\ con el nombre CarpetaTaludEstratoNF?. Esa carpeta "
-                   "contiene un archivo con nombre 'taludestratosNF.cod', con el total de las coordenadas que "
-                   "definen la geometría de la superficie del talud, la geometría de los estratos y del nivel "
-                   "freático.?")) {
+  if (!ui.Pregunta(
+          "Existe una carpeta ya creada en c:\\ con el nombre CarpetaTaludEstratoNF?. Esa carpeta "
+          "contiene un archivo con nombre 'taludestratosNF.cod', con el total de las coordenadas "
+          "que "
+          "definen la geometría de la superficie del talud, la geometría de los estratos y del "
+          "nivel "
+          "freático.?")) {
     mostrarTalud();
     return;
   }

@@ -31,7 +31,8 @@ void Form4::Activar(Interfaz&) {
   const int n = p_.NúmeroEstratos;
   l.filas.push_back({"antes del primero"});
   for (int s = 1; s < n; ++s)
-    l.filas.push_back({"entre el estrato " + std::to_string(s) + " y el estrato " + std::to_string(s + 1)});
+    l.filas.push_back(
+        {"entre el estrato " + std::to_string(s) + " y el estrato " + std::to_string(s + 1)});
   l.filas.push_back({"después del último"});
 }
 

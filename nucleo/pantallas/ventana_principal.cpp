@@ -88,7 +88,8 @@ void PanelElegirEstrato(Proyecto& p, Interfaz&, int fila) {
 std::vector<std::pair<std::string, std::string>> FilasCoordenadas(const EstadoVentana& v) {
   std::vector<std::pair<std::string, std::string>> filas;
   filas.reserve(v.ListaCoordenadas.size());
-  for (const PuntoPanel& q : v.ListaCoordenadas) filas.emplace_back(Formato(q.X, "#0.00"), Formato(q.Y, "#0.00"));
+  for (const PuntoPanel& q : v.ListaCoordenadas)
+    filas.emplace_back(Formato(q.X, "#0.00"), Formato(q.Y, "#0.00"));
   return filas;
 }
 

@@ -42,10 +42,13 @@ const std::string kFiltro = "Todos los archivos (*.*)|*.*|Archivos de coordenada
 
 // Questions of the chain as they stand in the transcript, without the answer.
 const std::string kSísmico =
-    "[pregunta]  | Existe  datos o registros para análisis sísmicos. Por tanto para el análisis por los métodos "
-    "de equilibrio límite, se recomienda que Guarde la información en otro archivo con otro nombre para no "
+    "[pregunta]  | Existe  datos o registros para análisis sísmicos. Por tanto para el análisis "
+    "por los métodos "
+    "de equilibrio límite, se recomienda que Guarde la información en otro archivo con otro nombre "
+    "para no "
     "perder esa información si así lo considera. ¿Desea continuar?. -> ";
-const std::string kSinCálculo = "[pregunta]  | Ud. no ha realizado el cálculo, ¿Desea guardar y luego calcular? -> ";
+const std::string kSinCálculo =
+    "[pregunta]  | Ud. no ha realizado el cálculo, ¿Desea guardar y luego calcular? -> ";
 const std::string kDiálogoCancelado = "[archivo] Guardar como | ";
 
 class Archivo : public ::testing::Test {
@@ -75,17 +78,23 @@ TEST_F(Archivo, LasCuatroComprobacionesQueTerminanElGuardado) {
   };
   const Caso casos[] = {
       {[](Proyecto& q) { q.InformaciónDada = false; },
-       "[mensaje] Información del proyecto | Si desea guardar información, comience por dar La información del "
+       "[mensaje] Información del proyecto | Si desea guardar información, comience por dar La "
+       "información del "
        "proyecto en el menú archivo."},
       {[](Proyecto& q) { q.NúmeroPuntosTalud = 0; },
-       "[mensaje] Coordenadas Talud-Presa-Túnel | Si desea guardar información, debe dar primero las coordenas "
-       "del talud o las coordenadas de la superficie de la Presa ó coordenadas del borde de la carga de roca en el "
+       "[mensaje] Coordenadas Talud-Presa-Túnel | Si desea guardar información, debe dar primero "
+       "las coordenas "
+       "del talud o las coordenadas de la superficie de la Presa ó coordenadas del borde de la "
+       "carga de roca en el "
        "túnel. Vaya al menú coordenadas."},
       {[](Proyecto& q) { q.NúmeroEstratos = 0; },
-       "[mensaje] Estratos e Insertar estrato | Si desea guardar información, debe insertar primero el número de "
-       "estratos que definen la litología del problema y luego  dar sus coordenadas. Vaya al menú coordenadas."},
+       "[mensaje] Estratos e Insertar estrato | Si desea guardar información, debe insertar "
+       "primero el número de "
+       "estratos que definen la litología del problema y luego  dar sus coordenadas. Vaya al menú "
+       "coordenadas."},
       {[](Proyecto& q) { q.EstratosCaracterizados = false; },
-       "[mensaje] Caracteríticas Geomecánicas de los estratos | Ud. no ha dado las características geomecánicas "
+       "[mensaje] Caracteríticas Geomecánicas de los estratos | Ud. no ha dado las características "
+       "geomecánicas "
        "de los estratos. Vaya al menú Parámetros y Cargas"},
   };
   // Each check stands before the ones below it: with all four failing only the first speaks.
@@ -146,8 +155,8 @@ TEST_F(Archivo, GuardarPasaLasComprobacionesDosVecesYSiempreMuestraElDiálogo) {
   MenúArchivoGuardar(p, ui);
   // The seismic data were dropped by the first Yes, so the second pass asks only about the
   // calculation.
-  EXPECT_EQ(Líneas(ui), (std::vector<std::string>{kSísmico + "S", kSinCálculo + "S", kSinCálculo + "S",
-                                                    kDiálogoCancelado}));
+  EXPECT_EQ(Líneas(ui), (std::vector<std::string>{kSísmico + "S", kSinCálculo + "S",
+                                                  kSinCálculo + "S", kDiálogoCancelado}));
   EXPECT_EQ(ui.filtros, (std::vector<std::pair<std::string, int>>{{kFiltro, 2}}));
   EXPECT_FALSE(p.DatosGuardados);  // the dialog was cancelled
   EXPECT_EQ(p.Ventana.Título, "[Nuevo proyecto] - Lomaterra");
@@ -189,8 +198,9 @@ TEST_F(Archivo, NuevoConNoDescartaLosDatos) {
   p.Ventana.Título = "via.cod - Lomaterra";
   ui.Responder("N");
   ArchivoNuevo(p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                            "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> N"});
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{
+                "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> N"});
   EXPECT_EQ(p.NúmeroPuntosTalud, 0);
   EXPECT_EQ(p.NúmeroEstratos, 0);
   EXPECT_FALSE(p.InformaciónDada);
@@ -205,10 +215,12 @@ TEST_F(Archivo, NuevoConSíGuardaPorElComandoGuardarYLuegoReinicia) {
   p.InformaciónDada = false;  // the save refuses: New goes on all the same
   ui.Responder("S");
   ArchivoNuevo(p, ui);
-  EXPECT_EQ(Líneas(ui), (std::vector<std::string>{
-                            "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> S",
-                            "[mensaje] Información del proyecto | Si desea guardar información, comience por dar "
-                            "La información del proyecto en el menú archivo."}));
+  EXPECT_EQ(
+      Líneas(ui),
+      (std::vector<std::string>{
+          "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> S",
+          "[mensaje] Información del proyecto | Si desea guardar información, comience por dar "
+          "La información del proyecto en el menú archivo."}));
   EXPECT_EQ(p.NúmeroPuntosTalud, 0);
 
   InterfazConFiltros i;  // saved data: no question
@@ -219,8 +231,9 @@ TEST_F(Archivo, NuevoConSíGuardaPorElComandoGuardarYLuegoReinicia) {
 TEST_F(Archivo, AbrirPreguntaSoloConDatosYListaSinGuardar) {
   ui.Responder("N");
   MenúArchivoAbrir(p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[pregunta]  | No ha guardado los datos actuales, ¿desea "
-                                                 "continuar y abrir otro archivo? -> N"});
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{"[pregunta]  | No ha guardado los datos actuales, ¿desea "
+                                     "continuar y abrir otro archivo? -> N"});
   EXPECT_TRUE(ui.filtros.empty());
   EXPECT_EQ(p.NúmeroPuntosTalud, 2);
 
@@ -240,7 +253,9 @@ TEST_F(Archivo, AbrirUnArchivoIlegibleLoMuestraComoAbierto) {
   MenúArchivoAbrir(p, ui);
   const auto l = Líneas(ui);
   ASSERT_EQ(l.size(), 3u);
-  EXPECT_EQ(l[0], "[pregunta]  | No ha guardado los datos actuales, ¿desea continuar y abrir otro archivo? -> S");
+  EXPECT_EQ(l[0],
+            "[pregunta]  | No ha guardado los datos actuales, ¿desea continuar y abrir otro "
+            "archivo? -> S");
   EXPECT_EQ(l[1], "[archivo] Abrir | " + ruta);
   EXPECT_EQ(ui.Transcripción()[2].texto, "Error leyendo archivo");
   EXPECT_EQ(p.Ventana.NombreArchivo, ruta);
@@ -253,8 +268,9 @@ TEST_F(Archivo, AbrirUnArchivoIlegibleLoMuestraComoAbierto) {
 TEST_F(Archivo, SalirPreguntaSoloConDatosSinGuardar) {
   ui.Responder("N");
   MenúArchivoSalir(p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                            "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> N"});
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{
+                "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> N"});
   EXPECT_TRUE(p.Ventana.SalirDelPrograma);
 
   Proyecto q;
@@ -284,34 +300,47 @@ class ArchivoElementosFinitos : public Archivo {
     p.TipoDeAnálisis = "F";
     p.CálculoHecho = false;
   }
-  static std::string P(const std::string& texto, const char* r) { return "[pregunta]  | " + texto + " -> " + r; }
+  static std::string P(const std::string& texto, const char* r) {
+    return "[pregunta]  | " + texto + " -> " + r;
+  }
 };
 
 const std::string kNodos =
-    "No se ha dado las coordenadas de los nodos que definen los elementos finitos (Menú elementos finitos), "
+    "No se ha dado las coordenadas de los nodos que definen los elementos finitos (Menú elementos "
+    "finitos), "
     "¿Desea guardar y luego dar las coordenadas?";
 const std::string kElementos =
-    "No se han definido los elementos finitos a través de los respectivos nodos (Menú elementos finitos), ¿Desea "
+    "No se han definido los elementos finitos a través de los respectivos nodos (Menú elementos "
+    "finitos), ¿Desea "
     "guardar y luego definir elementos?";
 const std::string kElásticas =
-    "No se ha dado las características elásticas  de los estratos (Menú elementos finitos, Parámetros de los "
+    "No se ha dado las características elásticas  de los estratos (Menú elementos finitos, "
+    "Parámetros de los "
     "estratos), ¿Desea guardar y luego dar esta información?";
 const std::string kMateriales =
-    "No se ha asignado a cada elemento el material que los caracteriza. (Menú elementos finitos, Caracterización "
+    "No se ha asignado a cada elemento el material que los caracteriza. (Menú elementos finitos, "
+    "Caracterización "
     "de los elementos), ¿Desea guardar y luego dar esta información?";
 const std::string kRestringidos =
-    "No se ha definido los nodos con restricción de movimiento. (Menú elementos finitos, Nodos con restricción), "
+    "No se ha definido los nodos con restricción de movimiento. (Menú elementos finitos, Nodos con "
+    "restricción), "
     "¿Desea guardar y luego dar esta información?";
 const std::string kParámetrosSísmicos =
-    "No se ha dado algunos parámetros de los estratos para el análisis sísmico (para análisis viscoplástico no es "
-    "requerido). (Menú elementos finitos, Parámetros de los estratos para el cálculo sísmico), ¿Desea guardar y "
+    "No se ha dado algunos parámetros de los estratos para el análisis sísmico (para análisis "
+    "viscoplástico no es "
+    "requerido). (Menú elementos finitos, Parámetros de los estratos para el cálculo sísmico), "
+    "¿Desea guardar y "
     "luego dar esta información?";
 const std::string kRegistro =
-    "No se ha dado los valores de las aceleraciones del registro sísmico (para análisis viscoplástico no es "
-    "requerido). (Menú elementos finitos, Input de registro sísmico), ¿Desea guardar y luego dar esta "
+    "No se ha dado los valores de las aceleraciones del registro sísmico (para análisis "
+    "viscoplástico no es "
+    "requerido). (Menú elementos finitos, Input de registro sísmico), ¿Desea guardar y luego dar "
+    "esta "
     "información?";
-const std::string kCálculoSísmico = "Ud. no ha realizado el cálculo sísmico, ¿Desea guardar y luego calcular?";
-const std::string kViscoplástico = "Ud. no ha realizado el cálculo viscoplástico, ¿Desea guardar y luego calcular?";
+const std::string kCálculoSísmico =
+    "Ud. no ha realizado el cálculo sísmico, ¿Desea guardar y luego calcular?";
+const std::string kViscoplástico =
+    "Ud. no ha realizado el cálculo viscoplástico, ¿Desea guardar y luego calcular?";
 
 TEST_F(ArchivoElementosFinitos, SueloSinNadaPreguntaTodoEnOrden) {
   MenúArchivoGuardarComo(p, ui);  // no answers given: No, and the first question ends it
@@ -329,11 +358,13 @@ TEST_F(ArchivoElementosFinitos, SueloSinNadaPreguntaTodoEnOrden) {
   EXPECT_EQ(l[4], P(kRestringidos, "S"));
   EXPECT_EQ(l[5], P(kParámetrosSísmicos, "S"));
   EXPECT_EQ(l[6], P(kRegistro, "S"));
-  EXPECT_EQ(l[7].rfind("[pregunta]  | No se ha ordenado hacer el cálculo de los vectores de forma modales "
-                       "normalizados, y en consecuencia las frecuencias naturales (para análisis viscoplástico "
-                       "no es requerido).",
-                       0),
-            0u);
+  EXPECT_EQ(
+      l[7].rfind(
+          "[pregunta]  | No se ha ordenado hacer el cálculo de los vectores de forma modales "
+          "normalizados, y en consecuencia las frecuencias naturales (para análisis viscoplástico "
+          "no es requerido).",
+          0),
+      0u);
   EXPECT_NE(l[7].find("¿Desea guardar y luego se estiman estos valores.? -> S"), std::string::npos);
   EXPECT_EQ(l[8], P(kViscoplástico, "S"));
   EXPECT_EQ(l[9], kDiálogoCancelado);

@@ -18,11 +18,14 @@ namespace lomaterra {
 namespace {
 
 const std::string kPreguntaCarpeta =
-    "Existe una carpeta ya creada en c:\\ con el nombre CarpetaTaludEstratoNF?. Esa carpeta contiene un archivo "
-    "con nombre 'taludestratosNF.cod', con el total de las coordenadas que definen la geometría de la superficie "
+    "Existe una carpeta ya creada en c:\\ con el nombre CarpetaTaludEstratoNF?. Esa carpeta "
+    "contiene un archivo "
+    "con nombre 'taludestratosNF.cod', con el total de las coordenadas que definen la geometría de "
+    "la superficie "
     "del talud, la geometría de los estratos y del nivel freático.?";
 const std::string kPreguntaYaExisten =
-    "Ya existen coordenadas de la superficie del talud y número de estratos. Desea cargar la geometría del talud, "
+    "Ya existen coordenadas de la superficie del talud y número de estratos. Desea cargar la "
+    "geometría del talud, "
     "de los estratos y nivel freático, a partir de un archivo ya creado.?";
 
 class ArchivoLateral : public ::testing::Test {
@@ -50,12 +53,14 @@ TEST_F(ArchivoLateral, LaCarpetaCuelgaDeLaBaseDada) {
   ::unsetenv("LOMATERRA_CARPETA_BASE");
   const char* casa = std::getenv("HOME");
   if (casa != nullptr && *casa != '\0') {
-    EXPECT_EQ(RutaArchivoTaludEstratosNF(), std::string(casa) + "/CarpetaTaludEstratoNF/taludestratosNF.cod");
+    EXPECT_EQ(RutaArchivoTaludEstratosNF(),
+              std::string(casa) + "/CarpetaTaludEstratoNF/taludestratosNF.cod");
   }
 }
 
 TEST_F(ArchivoLateral, LecturaCompletaConUnNivelFreáticoDeCeroPuntos) {
-  Escribir({"3", "40,10", "20,10", "0,0", "0", "2", "2", "40,6", "0,-2", "3", "40,2.5", "20,1", "0,-5"});
+  Escribir(
+      {"3", "40,10", "20,10", "0,0", "0", "2", "2", "40,6", "0,-2", "3", "40,2.5", "20,1", "0,-5"});
   p.Ventana.TipoPanel = 2;  // the panel was elsewhere
   ui.Responder("S");
   MenúCoordenadasTalud_Estratos_Nivelfreático_DeArchivo(p, ui);

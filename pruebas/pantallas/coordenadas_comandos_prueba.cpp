@@ -23,9 +23,12 @@ std::vector<std::string> Líneas(const InterfazGuionada& ui) {
 }
 
 const std::string kInsertado =
-    "[mensaje] Insertar estrato | YA SE INSERTÓ EL ESTRATO: Ahora vaya inmediatamente al menú 'Parámetros y "
-    "Cargas' y dé las 'Características Geomecánicas' del estrato insertado. Si trabaja con elementos finitos, "
-    "vaya también al menú 'Elementos finitos' y dé los 'Parámetros de los estratos' y los 'Parámetros de los "
+    "[mensaje] Insertar estrato | YA SE INSERTÓ EL ESTRATO: Ahora vaya inmediatamente al menú "
+    "'Parámetros y "
+    "Cargas' y dé las 'Características Geomecánicas' del estrato insertado. Si trabaja con "
+    "elementos finitos, "
+    "vaya también al menú 'Elementos finitos' y dé los 'Parámetros de los estratos' y los "
+    "'Parámetros de los "
     "estratos para el cálculo sísmico' del estrato insertado.";
 
 class Coordenadas : public ::testing::Test {
@@ -83,9 +86,11 @@ TEST_F(Coordenadas, SinInformaciónDelProyectoNingúnComandoDeEntradaAbre) {
     SCOPED_TRACE(nombre);
     InterfazGuionada i("SSSS");
     comando(p, i);
-    EXPECT_EQ(Líneas(i), std::vector<std::string>{
-                             "[mensaje] Información requerida | Debe dar la información del proyecto. Entre al "
-                             "menú 'Archivo'"});
+    EXPECT_EQ(
+        Líneas(i),
+        std::vector<std::string>{
+            "[mensaje] Información requerida | Debe dar la información del proyecto. Entre al "
+            "menú 'Archivo'"});
     EXPECT_EQ(p.Ventana.TipoPanel, 3);
     EXPECT_EQ(p.Ventana.ListaCoordenadas.size(), 1u);
     EXPECT_EQ(p.NúmeroPuntosFreático, 0);
@@ -95,11 +100,12 @@ TEST_F(Coordenadas, SinInformaciónDelProyectoNingúnComandoDeEntradaAbre) {
 
 TEST_F(Coordenadas, TodosLosComandosEstánEnElMenú) {
   const auto árbol = ÁrbolDeMenús();
-  for (const char* n : {"MenúCoordenadasTalud_Estratos_Nivelfreático_DeArchivo", "MenúCoordenadasTalud",
-                        "MenúCoordenadasFalla", "MenúCoordenadasFreático", "MenúCoordenadasEstratos",
-                        "MenúInsertarEstrato", "MenúEliminarEstrato", "MenúEliminarNivelFreático",
-                        "ArchivoNuevo", "MenúArchivoAbrir", "MenúArchivoGuardar", "MenúArchivoGuardarComo",
-                        "MenúArchivoSalir", "MenúAyudaContenido", "MenúAyudaAcercaDe"}) {
+  for (const char* n :
+       {"MenúCoordenadasTalud_Estratos_Nivelfreático_DeArchivo", "MenúCoordenadasTalud",
+        "MenúCoordenadasFalla", "MenúCoordenadasFreático", "MenúCoordenadasEstratos",
+        "MenúInsertarEstrato", "MenúEliminarEstrato", "MenúEliminarNivelFreático", "ArchivoNuevo",
+        "MenúArchivoAbrir", "MenúArchivoGuardar", "MenúArchivoGuardarComo", "MenúArchivoSalir",
+        "MenúAyudaContenido", "MenúAyudaAcercaDe"}) {
     const EntradaMenú* e = BuscarEntrada(árbol, n);
     ASSERT_NE(e, nullptr) << n;
     EXPECT_TRUE(static_cast<bool>(e->acción)) << n;
@@ -108,8 +114,8 @@ TEST_F(Coordenadas, TodosLosComandosEstánEnElMenú) {
 
 TEST_F(Coordenadas, EstratosSinNingunoPideInsertarPrimero) {
   MenúCoordenadasEstratos(p, ui);
-  EXPECT_EQ(ui.Textos(), std::vector<std::string>{
-                             "Actualmente no hay estratos. Seleccione primero una de las opciones: \nInsertar estrato"});
+  EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Actualmente no hay estratos. Seleccione primero "
+                                                  "una de las opciones: \nInsertar estrato"});
   EXPECT_EQ(p.Ventana.TipoPanel, 1);
 }
 
@@ -120,16 +126,20 @@ TEST_F(Coordenadas, InsertarSeNiegaMientrasFalteInformaciónDeUnEstratoInsertado
   };
   const Caso casos[] = {
       {&Proyecto::CaracterísticasSueloCompletas,
-       "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un estrato ya "
+       "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
+       "estrato ya "
        "insertado para ser considerado como un suelo."},
       {&Proyecto::CaracterísticasRocaCompletas,
-       "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un estrato ya "
+       "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
+       "estrato ya "
        "insertado para ser considerado como una roca."},
       {&Proyecto::ParámetrosEstratoCompletos,
-       "Falta darle al programa los Parámetros de los estratos (menú elementos finitos) de un estrato ya "
+       "Falta darle al programa los Parámetros de los estratos (menú elementos finitos) de un "
+       "estrato ya "
        "insertado para el cálculo elástico, viscoplástico o plástico."},
       {&Proyecto::ParámetrosSísmicosCompletos,
-       "Falta darle al programa los Parámetros de los estratos para el cálculo sísmico (menú elementos finitos) "
+       "Falta darle al programa los Parámetros de los estratos para el cálculo sísmico (menú "
+       "elementos finitos) "
        "de un estrato ya insertado."},
   };
   DosEstratosDeSuelo();
@@ -139,7 +149,8 @@ TEST_F(Coordenadas, InsertarSeNiegaMientrasFalteInformaciónDeUnEstratoInsertado
     InterfazGuionada i;
     ElegirEnForm4(i, 1);
     MenúInsertarEstrato(p, i);
-    EXPECT_EQ(Líneas(i), std::vector<std::string>{std::string("[mensaje] Información por dar:: | ") + c.texto});
+    EXPECT_EQ(Líneas(i), std::vector<std::string>{
+                             std::string("[mensaje] Información por dar:: | ") + c.texto});
     EXPECT_EQ(p.NúmeroEstratos, 2);
     p.*c.bandera = true;
   }
@@ -171,7 +182,8 @@ TEST_F(Coordenadas, Form4OfreceAntesEntreYDespués) {
                                                  {"después del último"}};
   EXPECT_EQ(f.lista("ListaEntre").filas, filas);
   f.Pulsar("BotónAceptar", ui);  // nothing chosen: it says so and stays open
-  EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Seleccione en la lista el lugar del nuevo estrato."});
+  EXPECT_EQ(ui.Textos(),
+            std::vector<std::string>{"Seleccione en la lista el lugar del nuevo estrato."});
   EXPECT_EQ(f.Posición, 0);
 }
 
@@ -233,7 +245,7 @@ TEST_F(Coordenadas, InsertarAntesDelPrimeroYDespuésDelÚltimo) {
 TEST_F(Coordenadas, Form4CerradoNoInsertaNada) {
   DosEstratosDeSuelo();
   p.Ventana.ListaCoordenadas = {{1, 1}};  // a panel not yet stored stays as it is
-  MenúInsertarEstrato(p, ui);  // no script: Form4 is closed with its exit button
+  MenúInsertarEstrato(p, ui);             // no script: Form4 is closed with its exit button
   EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[pantalla] Insertar estrato"});
   EXPECT_EQ(p.NúmeroEstratos, 2);
   EXPECT_TRUE(p.EstratosCaracterizados);
@@ -244,24 +256,28 @@ TEST_F(Coordenadas, EliminarEstrato) {
   DosEstratosDeSuelo();
   // Not a stratum in the panel.
   MenúEliminarEstrato(p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[mensaje]  | Seleccione la opción coordenadas estrato"});
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{"[mensaje]  | Seleccione la opción coordenadas estrato"});
   // No to the question.
   ui.Olvidar();
   MenúCoordenadasEstratos(p, ui);
   ui.Responder("N");
   MenúEliminarEstrato(p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                            "[pregunta]  | Desea eleminar el estrato que se muestra en pantalla? -> N"});
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{
+                "[pregunta]  | Desea eleminar el estrato que se muestra en pantalla? -> N"});
   EXPECT_EQ(p.NúmeroEstratos, 2);
   // No material yet: refused after the question.
   ui.Olvidar();
   p.TipoDeMaterial = "";
   ui.Responder("S");
   MenúEliminarEstrato(p, ui);
-  EXPECT_EQ(Líneas(ui), (std::vector<std::string>{
-                            "[pregunta]  | Desea eleminar el estrato que se muestra en pantalla? -> S",
-                            "[mensaje]  | Por favor vaya a la opción PARAMETROS INICIALES DE CALCULO e indique si "
-                            "está trabajando en SUELO o ROCA"}));
+  EXPECT_EQ(
+      Líneas(ui),
+      (std::vector<std::string>{
+          "[pregunta]  | Desea eleminar el estrato que se muestra en pantalla? -> S",
+          "[mensaje]  | Por favor vaya a la opción PARAMETROS INICIALES DE CALCULO e indique si "
+          "está trabajando en SUELO o ROCA"}));
   EXPECT_EQ(p.NúmeroEstratos, 2);
   // Yes: stratum 1 goes, stratum 2 closes up into its place and shows in the panel.
   p.TipoDeMaterial = "S";
@@ -284,7 +300,8 @@ TEST_F(Coordenadas, EliminarEstrato) {
 TEST_F(Coordenadas, EliminarNivelFreáticoEnSusTresCasos) {
   // Nothing stored and nothing in the panel.
   MenúEliminarNivelFreático(p, ui);
-  EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Seleccione la opción coordenadas nivel freático"});
+  EXPECT_EQ(ui.Textos(),
+            std::vector<std::string>{"Seleccione la opción coordenadas nivel freático"});
 
   // Points in the panel of the phreatic line, none stored yet.
   ui.Olvidar();
@@ -295,9 +312,10 @@ TEST_F(Coordenadas, EliminarNivelFreáticoEnSusTresCasos) {
   EXPECT_EQ(p.Ventana.ListaCoordenadas.size(), 2u);
   MenúEliminarNivelFreático(p, ui);
   EXPECT_EQ(ui.Textos(),
-            (std::vector<std::string>{
-                "Desea eliminar todas las coordenadas y que serán las correspondientes al nivel freático?",
-                "Desea eliminar todas las coordenadas y que serán las correspondientes al nivel freático?"}));
+            (std::vector<std::string>{"Desea eliminar todas las coordenadas y que serán las "
+                                      "correspondientes al nivel freático?",
+                                      "Desea eliminar todas las coordenadas y que serán las "
+                                      "correspondientes al nivel freático?"}));
   EXPECT_TRUE(p.Ventana.ListaCoordenadas.empty());
 
   // A line stored, the panel elsewhere.
@@ -309,8 +327,9 @@ TEST_F(Coordenadas, EliminarNivelFreáticoEnSusTresCasos) {
   MenúEliminarNivelFreático(p, ui);
   EXPECT_EQ(p.NúmeroPuntosFreático, 2);
   MenúEliminarNivelFreático(p, ui);
-  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{"Desea eleminar las coordenadas del nivel freático?",
-                                                   "Desea eleminar las coordenadas del nivel freático?"}));
+  EXPECT_EQ(ui.Textos(),
+            (std::vector<std::string>{"Desea eleminar las coordenadas del nivel freático?",
+                                      "Desea eleminar las coordenadas del nivel freático?"}));
   EXPECT_EQ(p.NúmeroPuntosFreático, 0);
   MenúCoordenadasFreático(p, ui);
   EXPECT_TRUE(p.Ventana.ListaCoordenadas.empty());

@@ -49,16 +49,21 @@ struct CasoOrden {
 // X descends; on equal X the order of Y rises when X >= 0 and falls when X < 0; an equal point
 // (same X and Y) goes after its equals but before any smaller X.
 const CasoOrden kCasosOrden[] = {
-    {"AbscisasDistintasEnCualquierOrden", {{0, 1}, {20, 0}, {-10, 3}, {15, 2}},
+    {"AbscisasDistintasEnCualquierOrden",
+     {{0, 1}, {20, 0}, {-10, 3}, {15, 2}},
      {{20, 0}, {15, 2}, {0, 1}, {-10, 3}}},
-    {"IgualAbscisaPositivaOrdenadaCreciente", {{10, 5}, {10, 2}, {10, 8}, {12, 0}},
+    {"IgualAbscisaPositivaOrdenadaCreciente",
+     {{10, 5}, {10, 2}, {10, 8}, {12, 0}},
      {{12, 0}, {10, 2}, {10, 5}, {10, 8}}},
     {"IgualAbscisaCeroCuentaComoPositiva", {{0, 3}, {0, 1}, {-1, 0}}, {{0, 1}, {0, 3}, {-1, 0}}},
-    {"IgualAbscisaNegativaOrdenadaDecreciente", {{-5, 5}, {-5, 2}, {-5, 8}, {-7, 0}},
+    {"IgualAbscisaNegativaOrdenadaDecreciente",
+     {{-5, 5}, {-5, 2}, {-5, 8}, {-7, 0}},
      {{-5, 8}, {-5, 5}, {-5, 2}, {-7, 0}}},
-    {"PuntoRepetidoVaDetrásDeSusIguales", {{10, 5}, {10, 7}, {4, 1}, {10, 5}},
+    {"PuntoRepetidoVaDetrásDeSusIguales",
+     {{10, 5}, {10, 7}, {4, 1}, {10, 5}},
      {{10, 5}, {10, 5}, {10, 7}, {4, 1}}},
-    {"PuntoRepetidoNegativoDetrásDeSusIguales", {{-3, 2}, {-3, 9}, {-8, 1}, {-3, 2}},
+    {"PuntoRepetidoNegativoDetrásDeSusIguales",
+     {{-3, 2}, {-3, 9}, {-8, 1}, {-3, 2}},
      {{-3, 9}, {-3, 2}, {-3, 2}, {-8, 1}}},
 };
 
@@ -98,7 +103,8 @@ TEST_F(Panel, ModificarSinFilaSeleccionada) {
   AgregarTodos({{5, 1}, {3, 2}});
   PanelModificar(p, ui);
   EXPECT_EQ(ui.Textos(),
-            std::vector<std::string>{"Ud no ha seleccionado ninguna fila para modificar valores ya agregados."});
+            std::vector<std::string>{
+                "Ud no ha seleccionado ninguna fila para modificar valores ya agregados."});
   EXPECT_EQ(DelPanel(p), (Puntos{{5, 1}, {3, 2}}));
 }
 
@@ -139,7 +145,8 @@ TEST_F(Panel, AbscisasIgualesSeGuardanUnCentésimoMásBajasYElPanelLasMuestraCom
   MenúCoordenadasTalud(p, ui);  // reloaded from the table: now the stored values show
   EXPECT_EQ(DelPanel(p), (Puntos{{10, 2}, {10 - 0.01, 5}, {4, 0}}));
   using Filas = std::vector<std::pair<std::string, std::string>>;
-  EXPECT_EQ(FilasCoordenadas(p.Ventana), (Filas{{"10.00", "2.00"}, {"9.99", "5.00"}, {"4.00", "0.00"}}));
+  EXPECT_EQ(FilasCoordenadas(p.Ventana),
+            (Filas{{"10.00", "2.00"}, {"9.99", "5.00"}, {"4.00", "0.00"}}));
 }
 
 TEST_F(Panel, SalirDelPanelPorOtroComandoNoLoPierde) {
