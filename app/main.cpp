@@ -1,13 +1,13 @@
 // lomaterra: the desktop program. One project, reset at start, in one main window; a project file
 // given on the command line is opened as the Open command opens it.
+#include <QApplication>
+#include <QStringList>
 #include <clocale>
 #include <memory>
 
-#include <QApplication>
-#include <QStringList>
-
 #include "icono.h"
 #include "interfaz_qt.h"
+#include "pantallas/comandos_archivo.h"
 #include "proyecto/proyecto.h"
 #include "ventana_principal_qt.h"
 
@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
   VentanaPrincipalQt ventana(*proyecto);
   const QStringList argumentos = QApplication::arguments();
   if (argumentos.size() > 1) {
-    AbrirArchivoDado(*proyecto, ventana.interfaz(), S(argumentos[1]));
+    AbrirArchivoDeProyecto(*proyecto, ventana.interfaz(), S(argumentos[1]));
     ventana.Refrescar();
   }
   ventana.show();

@@ -24,8 +24,10 @@ QDialog* CrearVentanaAyuda(const QString& ruta, QWidget* padre) {
   QFile archivo(ruta);
   QString contenido;
   if (archivo.open(QIODevice::ReadOnly)) contenido = QString::fromUtf8(archivo.readAll());
-  if (contenido.trimmed().startsWith('<')) texto->setHtml(contenido);
-  else texto->setPlainText(contenido);
+  if (contenido.trimmed().startsWith('<'))
+    texto->setHtml(contenido);
+  else
+    texto->setPlainText(contenido);
 
   auto* botones = new QDialogButtonBox(ventana);
   QPushButton* cerrar = botones->addButton(QStringLiteral("&Cerrar"), QDialogButtonBox::RejectRole);

@@ -31,7 +31,8 @@ QStringList CarpetasPorDefecto() {
   QStringList r;
   if (QCoreApplication::instance()) {
     const QString programa = QCoreApplication::applicationDirPath();
-    r << QDir(programa).filePath("ayuda") << programa << QDir(programa).filePath("../share/lomaterra");
+    r << QDir(programa).filePath("ayuda") << programa
+      << QDir(programa).filePath("../share/lomaterra");
   }
 #ifdef LOMATERRA_AYUDA_FUENTE
   r << QString::fromUtf8(LOMATERRA_AYUDA_FUENTE);
@@ -59,7 +60,8 @@ FiltroQt ConvertirFiltro(const std::string& filtro, int índice) {
     if (!título.contains('(')) título += " (" + patrón + ")";
     filtros << título;
     const QString primero = patrón.section(' ', 0, 0);
-    extensiones << (primero.startsWith("*.") && !primero.mid(1).contains('*') ? primero.mid(2) : QString());
+    extensiones << (primero.startsWith("*.") && !primero.mid(1).contains('*') ? primero.mid(2)
+                                                                              : QString());
   }
   if (filtros.isEmpty() && !filtro.empty()) filtros << Q(filtro);
   FiltroQt r;
@@ -70,10 +72,11 @@ FiltroQt ConvertirFiltro(const std::string& filtro, int índice) {
   return r;
 }
 
-std::unique_ptr<QMessageBox> CrearCaja(const std::string& texto, const std::string& título, bool pregunta,
-                                       QWidget* padre) {
-  auto caja = std::make_unique<QMessageBox>(pregunta ? QMessageBox::Question : QMessageBox::Information, QString(),
-                                            QString(), QMessageBox::NoButton, padre);
+std::unique_ptr<QMessageBox> CrearCaja(const std::string& texto, const std::string& título,
+                                       bool pregunta, QWidget* padre) {
+  auto caja =
+      std::make_unique<QMessageBox>(pregunta ? QMessageBox::Question : QMessageBox::Information,
+                                    QString(), QString(), QMessageBox::NoButton, padre);
   Preparar(*caja, texto, título);
   if (pregunta) {
     QPushButton* sí = caja->addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
@@ -131,7 +134,8 @@ void InterfazQt::Abrir(Pantalla& pantalla) {
       alMostrar_(vista);
       // A screen left open by the stand-in is closed with its exit button, as the close box
       // would; one that refuses is closed all the same so that nothing waits for a hand.
-      for (int intento = 0; !pantalla.cerrada && intento < 3; ++intento) pantalla.CerrarSinCambios(*this);
+      for (int intento = 0; !pantalla.cerrada && intento < 3; ++intento)
+        pantalla.CerrarSinCambios(*this);
       vista.hide();
     } else {
       vista.exec();
@@ -145,7 +149,8 @@ void InterfazQt::Abrir(Pantalla& pantalla) {
 std::optional<std::string> InterfazQt::ElegirArchivoAbrir(const std::string& filtro, int índice) {
   if (sustituto_) return sustituto_->ElegirArchivoAbrir(filtro, índice);
   FiltroQt f = ConvertirFiltro(filtro, índice);
-  const QString ruta = QFileDialog::getOpenFileName(Padre(), QStringLiteral("Abrir"), QString(), f.filtros, &f.seleccionado);
+  const QString ruta = QFileDialog::getOpenFileName(Padre(), QStringLiteral("Abrir"), QString(),
+                                                    f.filtros, &f.seleccionado);
   if (ruta.isEmpty()) return std::nullopt;
   return S(QDir::toNativeSeparators(ruta));
 }
@@ -162,13 +167,18 @@ std::optional<std::string> InterfazQt::ElegirArchivoGuardar(const std::string& f
   return S(QDir::toNativeSeparators(diálogo.selectedFiles().front()));
 }
 
-void InterfazQt::CarpetasDeAyuda(const QStringList& carpetas) { Carpetas() = carpetas; }
-QStringList InterfazQt::CarpetasDeAyuda() { return Carpetas().isEmpty() ? CarpetasPorDefecto() : Carpetas(); }
+void InterfazQt::CarpetasDeAyuda(const QStringList& carpetas) {
+  Carpetas() = carpetas;
+}
+QStringList InterfazQt::CarpetasDeAyuda() {
+  return Carpetas().isEmpty() ? CarpetasPorDefecto() : Carpetas();
+}
 
 QString InterfazQt::BuscarAyuda(const std::string& archivo) {
   const QString dado = Q(archivo);
   if (!dado.isEmpty() && QFileInfo(dado).isFile()) return dado;
-  const QString nombre = Q(TítuloDeArchivo(archivo.empty() ? std::string("AYUDALOMATERRA.HLP") : archivo));
+  const QString nombre =
+      Q(TítuloDeArchivo(archivo.empty() ? std::string("AYUDALOMATERRA.HLP") : archivo));
   for (const QString& carpeta : CarpetasDeAyuda()) {
     const QString ruta = QDir(carpeta).filePath(nombre);
     if (QFileInfo(ruta).isFile()) return ruta;
@@ -201,7 +211,8 @@ void InterfazQt::AcercaDe(const std::string& título, const std::string& texto) 
     return;
   }
   auto caja = CrearCaja(texto, título, false, Padre());
-  if (!QApplication::windowIcon().isNull()) caja->setIconPixmap(QApplication::windowIcon().pixmap(64, 64));
+  if (!QApplication::windowIcon().isNull())
+    caja->setIconPixmap(QApplication::windowIcon().pixmap(64, 64));
   caja->exec();
 }
 

@@ -2,16 +2,15 @@
 // the generic view, the file dialogs, the help viewer and the about box.
 #pragma once
 
+#include <QDialog>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include <QDialog>
-#include <QPointer>
-#include <QString>
-#include <QStringList>
 
 #include "proyecto/interfaz.h"
 
@@ -24,16 +23,16 @@ class VistaPantalla;
 
 // The filters of a file dialog in Qt form, and the one to select.
 struct FiltroQt {
-  QString filtros;      // "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)"
-  QString seleccionado; // the filter of the given 1-based index
-  QString extensión;    // "cod": the extension of the selected filter, empty for "*.*"
+  QString filtros;       // "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)"
+  QString seleccionado;  // the filter of the given 1-based index
+  QString extensión;     // "cod": the extension of the selected filter, empty for "*.*"
 };
 // "Nombre (*.x)|*.x|Otro (*.y)|*.y" -> pairs of caption and pattern in Qt form.
 FiltroQt ConvertirFiltro(const std::string& filtro, int índice);
 
 // The box of a message (Aceptar) or of a question (Sí / No), before it is shown.
-std::unique_ptr<QMessageBox> CrearCaja(const std::string& texto, const std::string& título, bool pregunta,
-                                       QWidget* padre);
+std::unique_ptr<QMessageBox> CrearCaja(const std::string& texto, const std::string& título,
+                                       bool pregunta, QWidget* padre);
 
 class InterfazQt : public Interfaz {
  public:
@@ -80,7 +79,11 @@ class InterfazQt : public Interfaz {
 };
 
 // QString from and to the UTF-8 strings of the core.
-inline QString Q(const std::string& s) { return QString::fromStdString(s); }
-inline std::string S(const QString& s) { return s.toStdString(); }
+inline QString Q(const std::string& s) {
+  return QString::fromStdString(s);
+}
+inline std::string S(const QString& s) {
+  return s.toStdString();
+}
 
 }  // namespace lomaterra

@@ -1,6 +1,7 @@
 #include "muestra.h"
 
 #include <cmath>
+#include <filesystem>
 #include <initializer_list>
 #include <utility>
 
@@ -28,7 +29,8 @@ void ProyectoDeMuestra(Proyecto& p) {
   p.TipoDeAnálisis = "T";
   p.TipoDeMaterial = "S";
   p.InformaciónDada = true;
-  p.InformaciónProyecto = {"0+120.00", "0+180.00", "15 / 03/ 2024", "Ing. María Pérez", "Geotecnia Andina"};
+  p.InformaciónProyecto = {"0+120.00", "0+180.00", "15 / 03/ 2024", "Ing. María Pérez",
+                           "Geotecnia Andina"};
 
   // X descends from the crest: the crest at X 60 to 40, the toe at X 20, the plain to X 0.
   p.NúmeroPuntosTalud = Llenar(p.CoordenadasTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
@@ -40,8 +42,14 @@ void ProyectoDeMuestra(Proyecto& p) {
   p.PuntosEstrato[1] = p.PuntosEstrato[2] = 2;
   p.XEstrato.Redimensionar(2, 2);
   p.YEstrato.Redimensionar(2, 2);
-  p.XEstrato(1, 1) = 60; p.YEstrato(1, 1) = 12; p.XEstrato(1, 2) = 0; p.YEstrato(1, 2) = 6;
-  p.XEstrato(2, 1) = 60; p.YEstrato(2, 1) = 0;  p.XEstrato(2, 2) = 0; p.YEstrato(2, 2) = 0;
+  p.XEstrato(1, 1) = 60;
+  p.YEstrato(1, 1) = 12;
+  p.XEstrato(1, 2) = 0;
+  p.YEstrato(1, 2) = 6;
+  p.XEstrato(2, 1) = 60;
+  p.YEstrato(2, 1) = 0;
+  p.XEstrato(2, 2) = 0;
+  p.YEstrato(2, 2) = 0;
 
   TablaEstrato& e = p.Estrato;
   e.RedimensionarConservando(2);
@@ -67,9 +75,12 @@ void ProyectoDeMuestra(Proyecto& p) {
 
   // A strip load on the crest.
   p.CargaUniforme.Redimensionar(1);
-  p.CargaUniforme.xo[1] = 48; p.CargaUniforme.yo[1] = 20;
-  p.CargaUniforme.xf[1] = 56; p.CargaUniforme.yf[1] = 20;
-  p.CargaUniforme.qx[1] = 0;  p.CargaUniforme.qy[1] = 2;
+  p.CargaUniforme.xo[1] = 48;
+  p.CargaUniforme.yo[1] = 20;
+  p.CargaUniforme.xf[1] = 56;
+  p.CargaUniforme.yf[1] = 20;
+  p.CargaUniforme.qx[1] = 0;
+  p.CargaUniforme.qy[1] = 2;
   p.NúmeroCargasUniformes = 1;
   p.CargasUniformesDadas = true;
 
@@ -90,9 +101,12 @@ void ProyectoDeMuestra(Proyecto& p) {
   p.ParámetrosInicialesDados = true;
 
   EstadoVentana& w = p.Ventana;
-  w.TextoProyecto = "Corte de la vía en el tramo 0+120 a 0+180: talud de 10 m en dos estratos de suelo, "
-                    "nivel freático y carga de 2 ton/m2 en la cresta.";
-  w.NombreArchivo = "talud_de_muestra.cod";
+  w.TextoProyecto =
+      "Corte de la vía en el tramo 0+120 a 0+180: talud de 10 m en dos estratos de suelo, "
+      "nivel freático y carga de 2 ton/m2 en la cresta.";
+  // The sample's file lives in the temporary folder: a save of the sample never lands in the
+  // folder the program was started from.
+  w.NombreArchivo = (std::filesystem::temp_directory_path() / "talud_de_muestra.cod").string();
   w.Título = "talud_de_muestra.cod - Lomaterra";
   w.ReconstruirListaEstrato(2);
   w.EntradaCoordenadasAbierta = true;

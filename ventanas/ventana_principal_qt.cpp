@@ -1,8 +1,5 @@
 #include "ventana_principal_qt.h"
 
-#include <exception>
-#include <map>
-
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QFormLayout>
@@ -20,8 +17,9 @@
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <exception>
+#include <map>
 
-#include "proyecto/archivo.h"
 #include "proyecto/compat.h"
 #include "proyecto/proyecto.h"
 #include "vista_seccion.h"
@@ -50,16 +48,13 @@ QPushButton* Botón(const char* nombre, const QString& texto, QWidget* padre) {
 
 }  // namespace
 
-bool AbrirArchivoDado(Proyecto& p, Interfaz& ui, const std::string& ruta) {
-  if (!LeerProyecto(p, ruta, ui)) return false;
-  p.Ventana.NombreArchivo = ruta;
-  p.Ventana.Título = TítuloDeArchivo(ruta) + " - Lomaterra";
-  return true;
-}
-
-VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMenú> árbol, AccionesPanel panel,
-                                       QWidget* padre)
-    : QMainWindow(padre), proyecto_(proyecto), árbol_(std::move(árbol)), panel_(std::move(panel)), ui_(this) {
+VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMenú> árbol,
+                                       AccionesPanel panel, QWidget* padre)
+    : QMainWindow(padre),
+      proyecto_(proyecto),
+      árbol_(std::move(árbol)),
+      panel_(std::move(panel)),
+      ui_(this) {
   setObjectName("Form1");
   ConstruirMenús();
 
@@ -71,7 +66,8 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
   textoProyecto_ = new QPlainTextEdit(derecha);
   textoProyecto_->setObjectName("TextoProyecto");
   textoProyecto_->setFixedHeight(78);
-  textoProyecto_->setPlaceholderText(QStringLiteral("Escriba aquí una descripción breve del proyecto."));
+  textoProyecto_->setPlaceholderText(
+      QStringLiteral("Escriba aquí una descripción breve del proyecto."));
   títuloTexto->setBuddy(textoProyecto_);
   dibujo_ = new VistaSección(proyecto_, derecha);
   vertical->addWidget(títuloTexto);
@@ -123,8 +119,10 @@ void VentanaPrincipalQt::ConstruirMenús() {
     acción->setShortcut(Atajo(e.nombre));
     const std::string nombre = e.nombre;
     connect(acción, &QAction::triggered, this, [this, nombre] { EjecutarMenú(nombre); });
-    if (contenedor) contenedor->addAction(acción);
-    else menuBar()->addAction(acción);
+    if (contenedor)
+      contenedor->addAction(acción);
+    else
+      menuBar()->addAction(acción);
   }
 }
 
@@ -177,8 +175,10 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
   formulario->addRow(QStringLiteral("X (m):"), textoX_);
   formulario->addRow(QStringLiteral("Y (m):"), textoY_);
   vertical->addLayout(formulario);
-  connect(textoX_, &QLineEdit::textEdited, this, [this](const QString& t) { proyecto_.Ventana.TextoX = S(t); });
-  connect(textoY_, &QLineEdit::textEdited, this, [this](const QString& t) { proyecto_.Ventana.TextoY = S(t); });
+  connect(textoX_, &QLineEdit::textEdited, this,
+          [this](const QString& t) { proyecto_.Ventana.TextoX = S(t); });
+  connect(textoY_, &QLineEdit::textEdited, this,
+          [this](const QString& t) { proyecto_.Ventana.TextoY = S(t); });
 
   auto* botones = new QHBoxLayout;
   QPushButton* agregar = Botón("BotónAgregar", QStringLiteral("Agre&gar"), panel);
@@ -188,9 +188,18 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
   botones->addWidget(borrar);
   botones->addWidget(modificar);
   vertical->addLayout(botones);
-  connect(agregar, &QPushButton::clicked, this, [this] { Sincronizar(); Panel(panel_.agregar); });
-  connect(borrar, &QPushButton::clicked, this, [this] { Sincronizar(); Panel(panel_.borrar); });
-  connect(modificar, &QPushButton::clicked, this, [this] { Sincronizar(); Panel(panel_.modificar); });
+  connect(agregar, &QPushButton::clicked, this, [this] {
+    Sincronizar();
+    Panel(panel_.agregar);
+  });
+  connect(borrar, &QPushButton::clicked, this, [this] {
+    Sincronizar();
+    Panel(panel_.borrar);
+  });
+  connect(modificar, &QPushButton::clicked, this, [this] {
+    Sincronizar();
+    Panel(panel_.modificar);
+  });
   entradaPanel_ = {textoX_, textoY_, agregar, borrar, modificar};
   // Enter in the Y box adds the point, as the add button does.
   connect(textoY_, &QLineEdit::returnPressed, agregar, &QPushButton::click);
@@ -243,15 +252,18 @@ void VentanaPrincipalQt::closeEvent(QCloseEvent* evento) {
   Sincronizar();
   Correr(salir->acción);
   cerrando_ = false;
-  if (proyecto_.Ventana.SalirDelPrograma) evento->accept();
-  else evento->ignore();
+  if (proyecto_.Ventana.SalirDelPrograma)
+    evento->accept();
+  else
+    evento->ignore();
 }
 
 void VentanaPrincipalQt::Refrescar() {
   refrescando_ = true;
   const EstadoVentana& v = proyecto_.Ventana;
   setWindowTitle(Q(v.Título));
-  if (textoProyecto_->toPlainText() != Q(v.TextoProyecto)) textoProyecto_->setPlainText(Q(v.TextoProyecto));
+  if (textoProyecto_->toPlainText() != Q(v.TextoProyecto))
+    textoProyecto_->setPlainText(Q(v.TextoProyecto));
   etiquetaCoordenadas_->setText(Q(v.EtiquetaCoordenadas));
 
   QStringList estratos;
@@ -266,14 +278,15 @@ void VentanaPrincipalQt::Refrescar() {
     listaEstrato_->setCurrentIndex(v.EstratoSeleccionado);
 
   listaCoordenadas_->clearSelection();
-  listaCoordenadas_->setRowCount(static_cast<int>(v.ListaCoordenadas.size()));
+  const auto filas = FilasCoordenadas(v);
+  listaCoordenadas_->setRowCount(static_cast<int>(filas.size()));
   for (int r = 0; r < listaCoordenadas_->rowCount(); ++r) {
-    const PuntoPanel& q = v.ListaCoordenadas[static_cast<std::size_t>(r)];
-    const double valores[2] = {q.X, q.Y};
-    for (int k = 0; k < 2; ++k) {
-      auto* celda = new QTableWidgetItem(Q(Formato(valores[k], "#0.00")));
+    const auto& [x, y] = filas[static_cast<std::size_t>(r)];
+    int k = 0;
+    for (const std::string* valor : {&x, &y}) {
+      auto* celda = new QTableWidgetItem(Q(*valor));
       celda->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-      listaCoordenadas_->setItem(r, k, celda);
+      listaCoordenadas_->setItem(r, k++, celda);
     }
   }
   if (v.FilaSeleccionada >= 1 && v.FilaSeleccionada <= listaCoordenadas_->rowCount())

@@ -3,11 +3,10 @@
 // It shows the window state of the project and forwards every click to the core.
 #pragma once
 
+#include <QMainWindow>
 #include <functional>
 #include <string>
 #include <vector>
-
-#include <QMainWindow>
 
 #include "interfaz_qt.h"
 #include "pantallas/ventana_principal.h"
@@ -33,10 +32,6 @@ struct AccionesPanel {
   std::function<void(Proyecto&, Interfaz&, int)> elegirEstrato = PanelElegirEstrato;
   std::function<void(Proyecto&, const std::string&)> cambiarTexto = CambiarTextoProyecto;
 };
-
-// Opens the project file given on the command line as the Open command does: the file is read and
-// the window takes its name. False when the file could not be read (the reader has said why).
-bool AbrirArchivoDado(Proyecto& p, Interfaz& ui, const std::string& ruta);
 
 class VentanaPrincipalQt : public QMainWindow {
  public:
@@ -80,7 +75,8 @@ class VentanaPrincipalQt : public QMainWindow {
   QTableWidget* listaCoordenadas_ = nullptr;
   QLineEdit* textoX_ = nullptr;
   QLineEdit* textoY_ = nullptr;
-  std::vector<QWidget*> entradaPanel_;  // boxes and buttons, open once the project information is given
+  std::vector<QWidget*>
+      entradaPanel_;  // boxes and buttons, open once the project information is given
   QLabel* líneaEstado_ = nullptr;
   VistaSección* dibujo_ = nullptr;
 };

@@ -1,7 +1,5 @@
 #include "vista_pantalla.h"
 
-#include <algorithm>
-
 #include <QFormLayout>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -12,6 +10,7 @@
 #include <QStyle>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "interfaz_qt.h"
 #include "proyecto/compat.h"
@@ -26,7 +25,8 @@ constexpr std::size_t kCamposPorColumna = 10;
 // Tables of more columns than this size their columns to the contents and may scroll sideways.
 constexpr int kColumnasAjustadas = 9;
 
-const char* kEstiloSoloLectura = "QLineEdit[readOnly=\"true\"] { background: #ececec; color: #505050; }";
+const char* kEstiloSoloLectura =
+    "QLineEdit[readOnly=\"true\"] { background: #ececec; color: #505050; }";
 
 }  // namespace
 
@@ -76,7 +76,8 @@ void VistaPantalla::Construir() {
   nota_->setWordWrap(true);
   nota_->setTextFormat(Qt::PlainText);
   nota_->setFrameShape(QFrame::StyledPanel);
-  nota_->setStyleSheet("QLabel#Nota { background: #f4f1e6; border: 1px solid #c9c2a8; padding: 6px; }");
+  nota_->setStyleSheet(
+      "QLabel#Nota { background: #f4f1e6; border: 1px solid #c9c2a8; padding: 6px; }");
   nota_->setMinimumWidth(420);
   vertical->addWidget(nota_);
 
@@ -85,7 +86,8 @@ void VistaPantalla::Construir() {
   if (n > 0) {
     auto* fila = new QHBoxLayout;
     fila->setSpacing(24);
-    const std::size_t columnas = std::min<std::size_t>(3, (n + kCamposPorColumna - 1) / kCamposPorColumna);
+    const std::size_t columnas =
+        std::min<std::size_t>(3, (n + kCamposPorColumna - 1) / kCamposPorColumna);
     const std::size_t porColumna = (n + columnas - 1) / columnas;
     QFormLayout* formulario = nullptr;
     for (std::size_t i = 0; i < n; ++i) {
@@ -105,7 +107,8 @@ void VistaPantalla::Construir() {
       etiqueta->setObjectName(Q("Etiqueta:" + c.nombre));
       etiqueta->setBuddy(caja);
       etiqueta->setWordWrap(false);
-      etiqueta->setTextFormat(Qt::PlainText);  // captions such as "Suelo o roca <S>:" are not markup
+      etiqueta->setTextFormat(
+          Qt::PlainText);  // captions such as "Suelo o roca <S>:" are not markup
       formulario->addRow(etiqueta, caja);
       cajas_.push_back(caja);
       etiquetas_.push_back(etiqueta);
@@ -209,9 +212,11 @@ void VistaPantalla::Refrescar() {
       for (int r = 0; r < tabla->rowCount(); ++r) {
         const auto& fila = lista.filas[static_cast<std::size_t>(r)];
         for (int k = 0; k < tabla->columnCount(); ++k) {
-          const std::string valor = k < static_cast<int>(fila.size()) ? fila[static_cast<std::size_t>(k)] : std::string();
+          const std::string valor =
+              k < static_cast<int>(fila.size()) ? fila[static_cast<std::size_t>(k)] : std::string();
           auto* celda = new QTableWidgetItem(Q(valor));
-          celda->setTextAlignment((EsNúmero(valor) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+          celda->setTextAlignment((EsNúmero(valor) ? Qt::AlignRight : Qt::AlignLeft) |
+                                  Qt::AlignVCenter);
           tabla->setItem(r, k, celda);
         }
       }
@@ -221,7 +226,8 @@ void VistaPantalla::Refrescar() {
     const int mostrada = elegidas.isEmpty() ? 0 : elegidas.front().row() + 1;
     if (mostrada != lista.seleccionada) {
       tabla->clearSelection();
-      if (lista.seleccionada >= 1 && lista.seleccionada <= tabla->rowCount()) tabla->selectRow(lista.seleccionada - 1);
+      if (lista.seleccionada >= 1 && lista.seleccionada <= tabla->rowCount())
+        tabla->selectRow(lista.seleccionada - 1);
     }
   }
 

@@ -4,11 +4,10 @@
 // shows the screen again and closes when the screen says it is closed.
 #pragma once
 
+#include <QDialog>
 #include <exception>
 #include <string>
 #include <vector>
-
-#include <QDialog>
 
 #include "proyecto/pantalla.h"
 
@@ -48,7 +47,8 @@ class VistaPantalla : public QDialog {
   void Construir();
   std::string Firma() const;
   void Seleccionar(std::size_t lista, int fila);
-  template <class F> void Ejecutar(F&& f);
+  template <class F>
+  void Ejecutar(F&& f);
   void CerrarSiCorresponde();
 
   Pantalla& pantalla_;
@@ -58,7 +58,7 @@ class VistaPantalla : public QDialog {
   std::string firma_;
 
   QLabel* nota_ = nullptr;
-  std::vector<QLineEdit*> cajas_;      // one a field, in the order of the fields
+  std::vector<QLineEdit*> cajas_;  // one a field, in the order of the fields
   std::vector<QLabel*> etiquetas_;
   std::vector<QTableWidget*> tablas_;
   std::vector<std::vector<std::vector<std::string>>> filasMostradas_;

@@ -9,7 +9,8 @@
 
 namespace lomaterra {
 
-VistaSección::VistaSección(const Proyecto& proyecto, QWidget* padre) : QWidget(padre), proyecto_(proyecto) {
+VistaSección::VistaSección(const Proyecto& proyecto, QWidget* padre)
+    : QWidget(padre), proyecto_(proyecto) {
   setObjectName("DibujoSección");
   setAttribute(Qt::WA_OpaquePaintEvent);
   Actualizar();
@@ -40,8 +41,9 @@ void VistaSección::paintEvent(QPaintEvent*) {
   pintor.drawRect(rect().adjusted(0, 0, -1, -1));
   if (!TieneDibujo()) {
     pintor.setPen(QColor(0x80, 0x80, 0x80));
-    pintor.drawText(rect(), Qt::AlignCenter,
-                    QStringLiteral("La sección se dibuja aquí a medida que se dan sus coordenadas."));
+    pintor.drawText(
+        rect(), Qt::AlignCenter,
+        QStringLiteral("La sección se dibuja aquí a medida que se dan sus coordenadas."));
     return;
   }
   const QRectF marco = QRectF(rect()).adjusted(16, 16, -16, -16);

@@ -1,15 +1,14 @@
 // The Qt user-interface port: the filters of the file dialogs in Qt form, the captions of the
 // boxes, the Spanish buttons of a question, the stand-in used by tests, and the help file.
-#include <string>
+#include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QTimer>
-#include <QDialog>
-
-#include <gtest/gtest.h>
+#include <string>
 
 #include "interfaz_qt.h"
 #include "proyecto/interfaz_guionada.h"
@@ -87,7 +86,8 @@ TEST_F(InterfazPrueba, ConUnSustitutoLasCajasYLosEstadosVanAél) {
   ui.Sustituto(&guion);
   QString estado;
   ui.AlEstado([&](const QString& t) { estado = t; });
-  ui.Mensaje("Debe dar la información del proyecto. Entre al menú 'Archivo'", "Información requerida");
+  ui.Mensaje("Debe dar la información del proyecto. Entre al menú 'Archivo'",
+             "Información requerida");
   EXPECT_FALSE(ui.Pregunta("No ha guardado los datos actuales, ¿desea guardarlos?"));
   ui.Estado("Listo.");
   EXPECT_EQ(estado, "Listo.");
@@ -96,7 +96,8 @@ TEST_F(InterfazPrueba, ConUnSustitutoLasCajasYLosEstadosVanAél) {
   std::vector<std::string> líneas;
   for (const auto& a : guion.Transcripción()) líneas.push_back(InterfazGuionada::Línea(a));
   const std::vector<std::string> esperadas = {
-      "[mensaje] Información requerida | Debe dar la información del proyecto. Entre al menú 'Archivo'",
+      "[mensaje] Información requerida | Debe dar la información del proyecto. Entre al menú "
+      "'Archivo'",
       "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> N",
       "[estado] Listo.",
       "[archivo] Abrir | ",
@@ -111,8 +112,8 @@ TEST_F(InterfazPrueba, ElArchivoDeAyudaSeEncuentraPorSuNombreYEsUnaGuía) {
   QFile archivo(ruta);
   ASSERT_TRUE(archivo.open(QIODevice::ReadOnly));
   const QString texto = QString::fromUtf8(archivo.readAll());
-  for (const char* tema : {"Fellenius", "Bishop", "Janbu", "Leshchinsky", "Información del proyecto",
-                           "ton/m2", "Guardar"})
+  for (const char* tema : {"Fellenius", "Bishop", "Janbu", "Leshchinsky",
+                           "Información del proyecto", "ton/m2", "Guardar"})
     EXPECT_TRUE(texto.contains(QString::fromUtf8(tema))) << tema;
   EXPECT_TRUE(InterfazQt::BuscarAyuda("NOEXISTE.HLP").isEmpty());
 }

@@ -1,14 +1,13 @@
 // The menu tree of the main window against the command registry: every entry, in order, under
 // its parent, with its caption and control name, enabled only when it has a command.
-#include <map>
-#include <string>
-#include <vector>
+#include <gtest/gtest.h>
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-
-#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "proyecto/proyecto.h"
 #include "ventana_apoyo.h"
@@ -69,8 +68,12 @@ TEST_F(MenúsPrueba, LaBarraYAlgunosTextosSonLosDelPrograma) {
   VentanaPrincipalQt ventana(p);
   std::vector<std::string> barra;
   for (QAction* a : ventana.menuBar()->actions()) barra.push_back(S(a->text()));
-  const std::vector<std::string> esperada = {"&Archivo", "&Coordenadas", "&Parámatros_y_Cargas", "&Equilibrio límite",
-                                             "&Presentación del cálculo de esfuerzos", "&Elementos finitos",
+  const std::vector<std::string> esperada = {"&Archivo",
+                                             "&Coordenadas",
+                                             "&Parámatros_y_Cargas",
+                                             "&Equilibrio límite",
+                                             "&Presentación del cálculo de esfuerzos",
+                                             "&Elementos finitos",
                                              "A&yuda"};
   EXPECT_EQ(barra, esperada);
   struct Caso {
@@ -95,7 +98,8 @@ TEST_F(MenúsPrueba, LaBarraYAlgunosTextosSonLosDelPrograma) {
   QMenu* suelos = ventana.findChild<QMenu*>(QString::fromUtf8("CálculoEnSuelos"));
   ASSERT_NE(suelos, nullptr);
   EXPECT_EQ(Nombres(suelos->actions()),
-            (std::vector<std::string>{"ProcesoIterativoEnSuelos", "MétodoBishop", "MétodoFellenius", "MétodoJanbu"}));
+            (std::vector<std::string>{"ProcesoIterativoEnSuelos", "MétodoBishop", "MétodoFellenius",
+                                      "MétodoJanbu"}));
 }
 
 TEST_F(MenúsPrueba, UnaEntradaSinComandoQuedaDeshabilitadaYNoHaceNada) {

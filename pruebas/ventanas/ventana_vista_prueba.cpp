@@ -1,16 +1,15 @@
 // The generic view of a screen and the modal opening of screens by the Qt interface: what the
 // user types reaches the screen before a button acts, what the screen holds afterwards is shown,
 // and the screen alone decides when it closes.
-#include <string>
-#include <vector>
+#include <gtest/gtest.h>
 
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
-
-#include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "interfaz_qt.h"
 #include "proyecto/comandos.h"
@@ -42,7 +41,8 @@ class PantallaDePrueba : public Pantalla {
     l.alSeleccionar = [this](Interfaz&) {
       seleccionesVistas.push_back(lista("ListaFilas").seleccionada);
       const int f = lista("ListaFilas").seleccionada;
-      if (f >= 1) texto("TextoValor") = lista("ListaFilas").filas[static_cast<std::size_t>(f - 1)][1];
+      if (f >= 1)
+        texto("TextoValor") = lista("ListaFilas").filas[static_cast<std::size_t>(f - 1)][1];
     };
     listas = {l};
     botones = {{"BotónCopiar", "&Copiar",
@@ -53,7 +53,9 @@ class PantallaDePrueba : public Pantalla {
                   lista("ListaFilas").filas.push_back({"4", valorVisto});
                 }},
                {"BotónAñadirCampo", "A&ñadir campo",
-                [this](Interfaz&) { campos.push_back({"TextoNuevo", "Nuevo:", "7", "", false}); }},
+                [this](Interfaz&) {
+                  campos.push_back({"TextoNuevo", "Nuevo:", "7", "", false});
+                }},
                {"BotónFallo", "&Fallo", [](Interfaz&) { Div(1.0, 0.0); }},
                {"BotónAceptar", "&Aceptar", [this](Interfaz&) { cerrada = true; }}};
     if (cerrarAlActivar) cerrada = true;
@@ -77,7 +79,8 @@ class VistaPrueba : public ::testing::Test {
     pantalla.cerrada = false;
     pantalla.Activar(guion);
   }
-  template <class T> T* Hijo(VistaPantalla& v, const char* nombre) {
+  template <class T>
+  T* Hijo(VistaPantalla& v, const char* nombre) {
     return v.findChild<T*>(QString::fromUtf8(nombre));
   }
   PantallaDePrueba pantalla;
@@ -216,7 +219,9 @@ TEST_F(AbrirPrueba, UnaPantallaQueQuedaAbiertaSeCierraConSuSalida) {
 }
 
 TEST_F(AbrirPrueba, UnaFallaAritméticaDeUnBotónTerminaElComandoConSuMensaje) {
-  ui.AlMostrar([](VistaPantalla& v) { v.findChild<QPushButton*>(QString::fromUtf8("BotónFallo"))->click(); });
+  ui.AlMostrar([](VistaPantalla& v) {
+    v.findChild<QPushButton*>(QString::fromUtf8("BotónFallo"))->click();
+  });
   Proyecto p;
   bool siguió = false;
   const auto fin = EjecutarComando(

@@ -4,12 +4,6 @@
 // that a menu command opens on the sample project.
 //
 //   lomaterra-galeria [CARPETA] [PROYECTO.cod]
-#include <cstdio>
-#include <exception>
-#include <fstream>
-#include <set>
-#include <string>
-
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
@@ -20,11 +14,17 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QTextBrowser>
+#include <cstdio>
+#include <exception>
+#include <fstream>
+#include <set>
+#include <string>
 
 #include "ayuda_qt.h"
 #include "icono.h"
 #include "interfaz_qt.h"
 #include "muestra.h"
+#include "pantallas/comandos_archivo.h"
 #include "proyecto/comandos.h"
 #include "proyecto/interfaz_guionada.h"
 #include "ventana_principal_qt.h"
@@ -53,7 +53,8 @@ void Guardar(QWidget& w, const std::string& nombre) {
     QFont letra = QApplication::font();
     letra.setBold(true);
     pintor.setFont(letra);
-    pintor.drawText(QRect(10, 0, imagen.width() - 20, alto), Qt::AlignVCenter | Qt::AlignLeft, w.windowTitle());
+    pintor.drawText(QRect(10, 0, imagen.width() - 20, alto), Qt::AlignVCenter | Qt::AlignLeft,
+                    w.windowTitle());
     pintor.drawPixmap(0, alto, imagen);
     pintor.end();
     imagen = conTítulo;
@@ -97,9 +98,12 @@ class PantallaDeMuestra : public Pantalla {
   PantallaDeMuestra() {
     nombre = "MuestraVistaGenérica";
     título = "Cargas uniformes distribuidas sobre  la cara del talud";
-    nota = "'qx' es positiva cuando aplique compresión al talud. Esta dirigida en dirección horizontal (eje de las "
-           "abscisas).";
-    campos = {{"TextoAbscisaInicial", "Abscisa inicial xo (m):", "48", "Abscisa menor del tramo cargado", false},
+    nota =
+        "'qx' es positiva cuando aplique compresión al talud. Esta dirigida en dirección "
+        "horizontal (eje de las "
+        "abscisas).";
+    campos = {{"TextoAbscisaInicial", "Abscisa inicial xo (m):", "48",
+               "Abscisa menor del tramo cargado", false},
               {"TextoOrdenadaInicial", "Ordenada inicial yo (m):", "20", "", false},
               {"TextoAbscisaFinal", "Abscisa final xf (m):", "56", "", false},
               {"TextoOrdenadaFinal", "Ordenada final yf (m):", "20", "", false},
@@ -112,8 +116,10 @@ class PantallaDeMuestra : public Pantalla {
     l.filas = {{"1", "48.00", "20.00", "56.00", "20.00", "0.00", "2.00"}};
     l.seleccionada = 1;
     listas = {l};
-    botones = {{"BotónAgregar", "&Agregar", {}}, {"BotónModificar", "&Modificar", {}},
-               {"BotónAceptar", "A&ceptar", {}}, {"BotónCancelar", "&Cancelar", {}}};
+    botones = {{"BotónAgregar", "&Agregar", {}},
+               {"BotónModificar", "&Modificar", {}},
+               {"BotónAceptar", "A&ceptar", {}},
+               {"BotónCancelar", "&Cancelar", {}}};
   }
   void Activar(Interfaz&) override {}
 };
@@ -121,7 +127,10 @@ class PantallaDeMuestra : public Pantalla {
 void Pantallas(const Proyecto& muestra, std::ofstream& transcripción) {
   for (const EntradaMenú& e : ÁrbolDeMenús()) {
     if (!e.acción) continue;
-    if (e.nombre == "MenúArchivoSalir" || e.nombre == "MenúAyudaContenido") continue;
+    // Nothing that writes a file or ends the program.
+    if (e.nombre == "MenúArchivoSalir" || e.nombre == "MenúArchivoGuardar" ||
+        e.nombre == "MenúArchivoGuardarComo" || e.nombre == "ArchivoNuevo")
+      continue;
     // First with No to every question, then with Yes when No opened no new screen.
     for (bool sí : {false, true}) {
       Proyecto copia = muestra;
@@ -130,7 +139,8 @@ void Pantallas(const Proyecto& muestra, std::ofstream& transcripción) {
       ui.Sustituto(&guion);
       bool nueva = false;
       ui.AlMostrar([&](VistaPantalla& vista) {
-        const std::string nombre = vista.pantalla().nombre.empty() ? e.nombre : vista.pantalla().nombre;
+        const std::string nombre =
+            vista.pantalla().nombre.empty() ? e.nombre : vista.pantalla().nombre;
         if (!guardadas.count(nombre)) {
           Guardar(vista, nombre);
           nueva = true;
@@ -144,7 +154,8 @@ void Pantallas(const Proyecto& muestra, std::ofstream& transcripción) {
         transcripción << "  (falla: " << ex.what() << ")\n";
       }
       transcripción << "== " << e.nombre << (sí ? " [Sí]" : " [No]") << "\n";
-      for (const Apunte& a : guion.Transcripción()) transcripción << "  " << InterfazGuionada::Línea(a) << "\n";
+      for (const Apunte& a : guion.Transcripción())
+        transcripción << "  " << InterfazGuionada::Línea(a) << "\n";
       if (nueva) break;
     }
   }
@@ -165,10 +176,9 @@ int main(int argc, char** argv) {
   ProyectoDeMuestra(muestra);
   if (argumentos.size() > 2) {
     InterfazGuionada mudo;
-    if (!AbrirArchivoDado(muestra, mudo, S(argumentos[2]))) {
-      std::fprintf(stderr, "no se pudo leer %s; se usa el proyecto de muestra\n", argumentos[2].toUtf8().constData());
-      ProyectoDeMuestra(muestra);
-    }
+    AbrirArchivoDeProyecto(muestra, mudo, S(argumentos[2]));
+    for (const Apunte& a : mudo.Transcripción())
+      std::fprintf(stderr, "%s\n", InterfazGuionada::Línea(a).c_str());
   }
 
   {
@@ -185,13 +195,15 @@ int main(int argc, char** argv) {
     ventana.hide();
   }
   {
-    auto caja = CrearCaja("Debe dar la información del proyecto. Entre al menú 'Archivo'", "Información requerida",
-                          false, nullptr);
+    auto caja = CrearCaja("Debe dar la información del proyecto. Entre al menú 'Archivo'",
+                          "Información requerida", false, nullptr);
     Guardar(*caja, "caja_mensaje");
-    auto pregunta = CrearCaja("No ha guardado los datos actuales, ¿desea guardarlos?", "", true, nullptr);
+    auto pregunta =
+        CrearCaja("No ha guardado los datos actuales, ¿desea guardarlos?", "", true, nullptr);
     Guardar(*pregunta, "caja_pregunta");
-    auto acerca = CrearCaja("Lomaterra, versión 0.1.0\nEstabilidad de taludes, presas y túneles en dos dimensiones.",
-                            "Acerca de Lomaterra", false, nullptr);
+    auto acerca = CrearCaja(
+        "Lomaterra, versión 0.1.0\nEstabilidad de taludes, presas y túneles en dos dimensiones.",
+        "Acerca de Lomaterra", false, nullptr);
     acerca->setIconPixmap(IconoLomaterra().pixmap(64, 64));
     Guardar(*acerca, "caja_acerca_de");
   }
