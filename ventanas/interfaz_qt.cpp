@@ -45,7 +45,7 @@ void Preparar(QMessageBox& caja, const std::string& texto, const std::string& t�
   caja.setWindowTitle(InterfazQt::TítuloDeCaja(título));
   caja.setText(Q(texto));
   caja.setTextFormat(Qt::PlainText);
-  caja.setStyleSheet("QLabel#qt_msgbox_label { min-width: 340px; max-width: 560px; }");
+  caja.setStyleSheet("QLabel#qt_msgbox_label { min-width: 400px; max-width: 560px; }");
 }
 
 }  // namespace

@@ -195,15 +195,26 @@ int main(int argc, char** argv) {
     ventana.hide();
   }
   {
+    // The same window after Fellenius has run from its menu.
+    Proyecto p = muestra;
+    VentanaPrincipalQt ventana(p);
+    InterfazGuionada guion("N");
+    ventana.interfaz().Sustituto(&guion);
+    if (ventana.EjecutarMenú("MétodoFellenius")) Guardar(ventana, "ventana_principal_tras_fellenius");
+    ventana.hide();
+  }
+  {
     auto caja = CrearCaja("Debe dar la información del proyecto. Entre al menú 'Archivo'",
                           "Información requerida", false, nullptr);
     Guardar(*caja, "caja_mensaje");
     auto pregunta =
         CrearCaja("No ha guardado los datos actuales, ¿desea guardarlos?", "", true, nullptr);
     Guardar(*pregunta, "caja_pregunta");
-    auto acerca = CrearCaja(
-        "Lomaterra, versión 0.1.0\nEstabilidad de taludes, presas y túneles en dos dimensiones.",
-        "Acerca de Lomaterra", false, nullptr);
+    // The about box with the text of its own command.
+    InterfazGuionada guion;
+    MenúAyudaAcercaDe(muestra, guion);
+    const Apunte a = guion.Transcripción().empty() ? Apunte{} : guion.Transcripción().back();
+    auto acerca = CrearCaja(a.texto, a.título, false, nullptr);
     acerca->setIconPixmap(IconoLomaterra().pixmap(64, 64));
     Guardar(*acerca, "caja_acerca_de");
   }
