@@ -32,8 +32,8 @@ const char* const kGuardaÁngulos =
     "abandone el análisis por este método. Si desea que el programa continúe  y no ver más este "
     "mensaje para otra dovela presione <SI> y Si desea salir del cálculo  presione <NO> .?";
 
-long CargasUniformes(const Proyecto& p) { return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0; }
-long CargasPuntuales(const Proyecto& p) { return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0; }
+long UniformesDados(const Proyecto& p) { return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0; }
+long PuntualesDados(const Proyecto& p) { return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0; }
 
 // The history of factors as it stood before a run, put back when the run leaves without a result.
 struct HistoriaGuardada {
@@ -255,9 +255,9 @@ ResultadoIteración IteraciónBishop(Proyecto& p, Interfaz& ui, GuardasBishop& g
     alfa[i] = a;
     const double b = d.Ancho[i];
     peso[i] = (d.YTalud[i] - d.YBase[i]) * d.PesoUnitarioMedio[i] * b + d.AlturaAguaSobreTalud[i] * b;
-    for (long k = 1; k <= CargasUniformes(p); ++k)
+    for (long k = 1; k <= UniformesDados(p); ++k)
       if (CargaUniformeSobreDovela(p, k, i)) cargas[i] += p.CargaUniforme.qy[k] * b;
-    for (long k = 1; k <= CargasPuntuales(p); ++k)
+    for (long k = 1; k <= PuntualesDados(p); ++k)
       if (CargaPuntualEnDovela(p, k, i)) cargas[i] += p.CargaPuntual.Py[k];
     momentoCargas[i] = MomentoDeCargas(p, xr, yr, i);
   }

@@ -3,11 +3,24 @@
 #include "equilibrio/janbu.h"
 #include "proyecto/comandos.h"
 
+#include "pantallas/constantes.h"
+#include "pantallas/constantes_elementos.h"
+#include "pantallas/form15.h"
+#include "pantallas/form5.h"
+#include "pantallas/form6.h"
+#include "pantallas/form7.h"
+#include "pantallas/form8.h"
+
 namespace lomaterra {
 
 void EnlazarComandos(std::map<std::string, Acción>& a) {
-  (void)a;
-  // a["MétodoFellenius"] = MétodoFellenius;
+  a["MenúInformación"] = MenúInformación;
+  a["CaracterísticasGeomecánicasSuelos"] = CaracterísticasGeomecánicasSuelos;
+  a["MénuGeometríaEntrePuntosSuperficieFalla"] = MénuGeometríaEntrePuntosSuperficieFalla;
+  a["CargasUniformes"] = CargasUniformes;
+  a["CargasPuntuales"] = CargasPuntuales;
+  a["MenúArchivoConstantes"] = MenúArchivoConstantes;
+  a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
 }
