@@ -10,6 +10,7 @@
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
+#include "equilibrio/fellenius.h"
 
 namespace lomaterra {
 
@@ -21,6 +22,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["CargasPuntuales"] = CargasPuntuales;
   a["MenúArchivoConstantes"] = MenúArchivoConstantes;
   a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
+  a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
 }
