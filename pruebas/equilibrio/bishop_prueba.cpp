@@ -6,6 +6,7 @@
 #include <map>
 #include <vector>
 
+#include "equilibrio/acads_apoyo.h"
 #include "equilibrio/bishop.h"
 #include "proyecto/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
@@ -530,6 +531,33 @@ TEST(BishopPuertas, LaPreguntaDeLasEtapasYElTranscritoCompleto) {
                                       "geométricas o geomecánicas del problema o niveles freáticos?",
                                       false),
                                  Msj("", kFin)}));
+}
+
+// --- With the real stages ------------------------------------------------------------------------
+
+TEST(BishopConEtapas, BúsquedaDelRadioSobreElEjemploACADS) {
+  // The search reruns the six stages for every radius with the centre it rebuilt, and the final
+  // pass on the chosen radius. Whatever radius it keeps, it is R0 plus whole metres and its centre
+  // lies that far from both ends of the surface, (51.24, 35) and (29.7, 25), above the upper one.
+  // (The factor itself is the moment form with the radius in the driving sum; at the start the
+  // crest slice has a negative effective normal force, and the guard is answered Yes.)
+  Proyecto p = pruebas::EjemploACADS(20, 2);
+  p.ParámetrosIniciales.VaríaRadio = true;
+  InterfazGuionada ui("NS");
+  MétodoBishop(p, ui);
+  ASSERT_EQ(ui.Textos().back(), kFin);
+  const auto& pi = p.ParámetrosIniciales;
+  EXPECT_TRUE(p.Trabajo.RadioEnVariación);
+  EXPECT_EQ(p.Trabajo.RadioActual, pi.Radio);
+  const double pasos = pi.Radio - 28.2;
+  EXPECT_NEAR(pasos, std::round(pasos), 1e-9);
+  EXPECT_NEAR(std::hypot(pi.CentroX - 51.24, pi.CentroY - 35), pi.Radio, 1e-6);
+  EXPECT_NEAR(std::hypot(pi.CentroX - 29.7, pi.CentroY - 25), pi.Radio, 1e-6);
+  EXPECT_GT(pi.CentroY, 35);
+  EXPECT_GE(p.NúmeroIteraciones, 3);  // R0, at least one step, and the final pass
+  // The result is the least factor found: no row of the history lies below the last one.
+  const double fs = p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones];
+  for (long k = 1; k < p.NúmeroIteraciones; ++k) EXPECT_GE(p.HistoriaIteraciones.FactorDeSeguridad[k], fs - 1e-12) << k;
 }
 
 }  // namespace
