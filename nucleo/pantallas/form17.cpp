@@ -22,6 +22,14 @@ Form17::Form17(Proyecto& p) : p_(p) {
   ListaPantalla lista;
   lista.nombre = "ListaValoresDEht";
   lista.columnas = {"Dovela", "alfa_t (radianes)", "  ht (m)", "Nuevo ht(m)"};
+  // Selecting a row puts its height in the box, the new one when there is one.
+  lista.alSeleccionar = [this](Interfaz&) {
+    auto& l = this->lista("ListaValoresDEht");
+    const int fila = l.seleccionada;
+    if (fila < 1 || fila > static_cast<int>(l.filas.size())) return;
+    const auto& nuevo = nuevos_[static_cast<std::size_t>(fila)];
+    texto("TextoNuevoValorDeht") = NúmeroATexto(nuevo ? *nuevo : p_.TablaDovelas.AlturaEmpuje.Leer(fila));
+  };
   listas.push_back(lista);
   botones = {{"Modificar", "&Modificar", [this](Interfaz& ui) { Modificar(ui); }},
              {"BotónAceptar", "&Aceptar", [this](Interfaz& ui) { BotónAceptar(ui); }},

@@ -96,6 +96,10 @@ TEST_F(Form17Prueba, ModificarYAceptar) {
   EXPECT_FALSE(pantalla.cerrada);
   EXPECT_EQ(p.TablaDovelas.AlturaEmpuje[1], 1);  // nothing stored yet
 
+  auto& l = pantalla.lista("ListaValoresDEht");
+  l.seleccionada = 2;
+  l.alSeleccionar(ui);  // the box takes the row's value
+  EXPECT_EQ(pantalla.texto("TextoNuevoValorDeht"), "0");
   Poner(ui, 2, "0.75");
   pantalla.Pulsar("BotónAceptar", ui);
   EXPECT_TRUE(pantalla.cerrada);
