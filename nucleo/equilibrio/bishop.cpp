@@ -21,25 +21,35 @@ namespace {
 const double kPi = 4.0 * std::atan(1.0);
 
 const char* const kGuardaEsfuerzoEfectivo =
-    "Existe alguna dovela donde el esfuerzo efectivo se hace cero o menor que cero. Problamente las "
-    "presiones de poros son elevadas en esa dovela.  Puede reajustar las presiones de poros en el menú "
+    "Existe alguna dovela donde el esfuerzo efectivo se hace cero o menor que cero. Problamente "
+    "las "
+    "presiones de poros son elevadas en esa dovela.  Puede reajustar las presiones de poros en el "
+    "menú "
     "Equilibrio Límite en la opción 'Cambio de parámetros de resistencia' o  aplique otro método y "
-    "compare resultados. Si desea que el programa continúe  y no ver más este mensaje para otra dovela "
+    "compare resultados. Si desea que el programa continúe  y no ver más este mensaje para otra "
+    "dovela "
     "presione <SI> y Si desea salir del cálculo  presione <NO> .?";
 const char* const kGuardaÁngulos =
-    "Alguna dovela no cumple con ciertas condiciones de angulos o dimensiones. Cambie las dimensiones "
-    "de las dovelas o geometría de la SPF, y si aún con este cambio no se obtiene el chequeo, entonces "
+    "Alguna dovela no cumple con ciertas condiciones de angulos o dimensiones. Cambie las "
+    "dimensiones "
+    "de las dovelas o geometría de la SPF, y si aún con este cambio no se obtiene el chequeo, "
+    "entonces "
     "abandone el análisis por este método. Si desea que el programa continúe  y no ver más este "
     "mensaje para otra dovela presione <SI> y Si desea salir del cálculo  presione <NO> .?";
 
-long UniformesDados(const Proyecto& p) { return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0; }
-long PuntualesDados(const Proyecto& p) { return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0; }
+long UniformesDados(const Proyecto& p) {
+  return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0;
+}
+long PuntualesDados(const Proyecto& p) {
+  return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0;
+}
 
 // The history of factors as it stood before a run, put back when the run leaves without a result.
 struct HistoriaGuardada {
   TablaHistoria tabla;
   Entero número;
-  explicit HistoriaGuardada(const Proyecto& p) : tabla(p.HistoriaIteraciones), número(p.NúmeroIteraciones) {}
+  explicit HistoriaGuardada(const Proyecto& p)
+      : tabla(p.HistoriaIteraciones), número(p.NúmeroIteraciones) {}
   void Devolver(Proyecto& p) const {
     p.HistoriaIteraciones = tabla;
     p.NúmeroIteraciones = número;
@@ -62,8 +72,9 @@ constexpr std::size_t kFilasBúsqueda = 100;
 // falls below the upper end.
 bool CentroParaRadio(const Proyecto& p, double radio, double& cx, double& cy) {
   const auto& w = p.Trabajo;
-  const double beta = std::atan(Div(w.YPrimerPuntoFalla - w.YÚltimoPuntoFalla, w.XMáximaFalla - w.XMínimaFalla,
-                                    "la inclinación de la cuerda del arco"));
+  const double beta =
+      std::atan(Div(w.YPrimerPuntoFalla - w.YÚltimoPuntoFalla, w.XMáximaFalla - w.XMínimaFalla,
+                    "la inclinación de la cuerda del arco"));
   const double c = Div(p.ParámetrosIniciales.Cuerda, 2.0 * radio, "la semicuerda del arco");
   const double theta = std::atan2(c, Raíz(1.0 - c * c, "el ángulo del arco"));
   const double gamma = theta - beta;
@@ -75,8 +86,8 @@ bool CentroParaRadio(const Proyecto& p, double radio, double& cx, double& cy) {
 // The search of the radius of least factor of safety, from the radius of the start upwards in
 // steps of 1 m while the factor falls, then downwards from the start; the smaller of the two bests
 // is calculated once more and is the result.
-ResultadoIteración BúsquedaDelRadio(Proyecto& p, Interfaz& ui, GuardasBishop& guardas, double fsInicial,
-                                    const EjecutorEtapas& etapas, int límite) {
+ResultadoIteración BúsquedaDelRadio(Proyecto& p, Interfaz& ui, GuardasBishop& guardas,
+                                    double fsInicial, const EjecutorEtapas& etapas, int límite) {
   auto& pi = p.ParámetrosIniciales;
   auto& w = p.Trabajo;
   w.RadioEnVariación = true;
@@ -84,8 +95,8 @@ ResultadoIteración BúsquedaDelRadio(Proyecto& p, Interfaz& ui, GuardasBishop& 
   w.RadioActual = r0;
   int dirección = +1;
   std::vector<FilaRadio> filas;
-  std::size_t inicioDirección = 0;             // first row of the current direction
-  std::optional<FilaRadio> mejor[2];           // [0] going up, [1] going down
+  std::size_t inicioDirección = 0;    // first row of the current direction
+  std::optional<FilaRadio> mejor[2];  // [0] going up, [1] going down
   double fs = fsInicial;
 
   auto mejorDeEstaDirección = [&] {
@@ -144,8 +155,10 @@ ResultadoIteración BúsquedaDelRadio(Proyecto& p, Interfaz& ui, GuardasBishop& 
   const double fsSube = mejor[0] ? mejor[0]->FS : 100.0;
   const double fsBaja = mejor[1] ? mejor[1]->FS : 100.0;
   FilaRadio elegida = filas.front();
-  if (mejor[1] && fsBaja <= fsSube) elegida = *mejor[1];
-  else if (mejor[0]) elegida = *mejor[0];
+  if (mejor[1] && fsBaja <= fsSube)
+    elegida = *mejor[1];
+  else if (mejor[0])
+    elegida = *mejor[0];
 
   pi.Radio = w.RadioActual = elegida.radio;
   pi.CentroX = elegida.centroX;
@@ -167,26 +180,31 @@ bool CargaPuntualEnDovela(const Proyecto& p, long k, long i) {
 }
 
 void AvisoSinConvergencia(Interfaz& ui, const std::string& método, double últimoFS, int pasadas) {
-  ui.Mensaje("El cálculo por el método de " + método + " no convergió en " + std::to_string(pasadas) +
-                 " iteraciones. El factor de seguridad de la última iteración fue " + Formato(últimoFS, "#0.000") +
-                 ". No se guardó ningún resultado.",
+  ui.Mensaje("El cálculo por el método de " + método + " no convergió en " +
+                 std::to_string(pasadas) +
+                 " iteraciones. El factor de seguridad de la última iteración fue " +
+                 Formato(últimoFS, "#0.000") + ". No se guardó ningún resultado.",
              kTítuloSinConvergencia);
 }
 
 void AvisoSinDovelas(Interfaz& ui) {
-  ui.Mensaje("No hay dovelas para calcular. Revise la superficie de falla y el número de dovelas.", "Sin dovelas:");
+  ui.Mensaje("No hay dovelas para calcular. Revise la superficie de falla y el número de dovelas.",
+             "Sin dovelas:");
 }
 
 bool PuertaParámetrosInstantáneos(Proyecto& p, Interfaz& ui) {
-  if (Mayúsculas(Recortar(p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos)) != "S") return true;
+  if (Mayúsculas(Recortar(p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos)) != "S")
+    return true;
   if (!p.ParámetrosInstantáneosCalculados) {
     ui.Mensaje(
-        "Este problema corresponde al método de parámetros instantáneos por favor seleccione:Suelos o Rocas "
+        "Este problema corresponde al método de parámetros instantáneos por favor "
+        "seleccione:Suelos o Rocas "
         "(parámetros instantáneos c,fi). ",
         "No es el camino:");
     return false;
   }
-  return ui.Pregunta("Ud. está calculando por el método de parámetros instantáneos. ¿Desea continuar el cálculo?");
+  return ui.Pregunta(
+      "Ud. está calculando por el método de parámetros instantáneos. ¿Desea continuar el cálculo?");
 }
 
 void DovelasDelMétodo(Proyecto& p, Interfaz& ui) {
@@ -197,7 +215,8 @@ void DovelasDelMétodo(Proyecto& p, Interfaz& ui) {
 
   // The stages rebuild strength and pressures from the strata: the values of the instantaneous
   // pass are kept aside and may go back.
-  const bool guardar = p.NúmeroBordes > 1 && pase && pi.ParámetrosInstantáneosDisponibles && caso >= 1 && caso <= 3;
+  const bool guardar =
+      p.NúmeroBordes > 1 && pase && pi.ParámetrosInstantáneosDisponibles && caso >= 1 && caso <= 3;
   Tabla<double> fricción, cohesión, poros;
   if (guardar) {
     fricción = d.FricciónBase;
@@ -216,13 +235,17 @@ void DovelasDelMétodo(Proyecto& p, Interfaz& ui) {
   if (pase && (caso == 1 || caso == 2) && p.ReutilizarParámetrosInstantáneos) devolver();
   if (pase && caso == 3) {
     if (pi.ParámetrosInstantáneosDisponibles)
-      ui.Mensaje("Parámetros de resistencia y de presión de poros que se tomarán para las estimaciones del factor "
-                 "de seguridad.",
-                 "Parámetros de resistencia.");
+      ui.Mensaje(
+          "Parámetros de resistencia y de presión de poros que se tomarán para las estimaciones "
+          "del factor "
+          "de seguridad.",
+          "Parámetros de resistencia.");
     else
-      ui.Mensaje("A continuación se presenta la pantalla de la sesión 'Cambio de parámetros de resistencia' para que  "
-                 "dé  los valores de cohesión, fricción y presión de poros  para cada dovela.",
-                 "Cambie los valores si lo requiere.");
+      ui.Mensaje(
+          "A continuación se presenta la pantalla de la sesión 'Cambio de parámetros de "
+          "resistencia' para que  "
+          "dé  los valores de cohesión, fricción y presión de poros  para cada dovela.",
+          "Cambie los valores si lo requiere.");
     devolver();
   }
 
@@ -233,7 +256,8 @@ void DovelasDelMétodo(Proyecto& p, Interfaz& ui) {
   }
 }
 
-ResultadoIteración IteraciónBishop(Proyecto& p, Interfaz& ui, GuardasBishop& guardas, int límitePasadas) {
+ResultadoIteración IteraciónBishop(Proyecto& p, Interfaz& ui, GuardasBishop& guardas,
+                                   int límitePasadas) {
   auto& d = p.TablaDovelas;
   const auto& pi = p.ParámetrosIniciales;
   const long n = p.NúmeroBordes - 1;
@@ -247,14 +271,16 @@ ResultadoIteración IteraciónBishop(Proyecto& p, Interfaz& ui, GuardasBishop& g
     double a;
     if (circular) {
       const double s = Div(d.XMedio[i] - pi.CentroX, radio, "el seno del ángulo de la base");
-      a = std::atan(Div(s, Raíz(1.0 - s * s, "el coseno del ángulo de la base"), "la tangente del ángulo de la base"));
+      a = std::atan(Div(s, Raíz(1.0 - s * s, "el coseno del ángulo de la base"),
+                        "la tangente del ángulo de la base"));
     } else {
       a = std::atan(d.PendienteBase[i]);
     }
     if (p.Trabajo.YPrimerPuntoFalla < p.Trabajo.YÚltimoPuntoFalla) a = std::fabs(a);
     alfa[i] = a;
     const double b = d.Ancho[i];
-    peso[i] = (d.YTalud[i] - d.YBase[i]) * d.PesoUnitarioMedio[i] * b + d.AlturaAguaSobreTalud[i] * b;
+    peso[i] =
+        (d.YTalud[i] - d.YBase[i]) * d.PesoUnitarioMedio[i] * b + d.AlturaAguaSobreTalud[i] * b;
     for (long k = 1; k <= UniformesDados(p); ++k)
       if (CargaUniformeSobreDovela(p, k, i)) cargas[i] += p.CargaUniforme.qy[k] * b;
     for (long k = 1; k <= PuntualesDados(p); ++k)
@@ -267,7 +293,8 @@ ResultadoIteración IteraciónBishop(Proyecto& p, Interfaz& ui, GuardasBishop& g
     double resistente = 0, motor = 0;
     for (long i = 1; i <= n; ++i) {
       const double a = alfa[i], sa = std::sin(a), ca = std::cos(a), W = peso[i];
-      const double b = d.Ancho[i], u = d.PresiónPoros[i], c = d.CohesiónBase[i], t = d.TanFricciónBase[i];
+      const double b = d.Ancho[i], u = d.PresiónPoros[i], c = d.CohesiónBase[i],
+                   t = d.TanFricciónBase[i];
       double n0 = (1 + kv) * W + cargas[i];
       n0 += Div((t * u - c) * (std::tan(a) * b), fs, "el factor de seguridad");
       const double m = sa * t / fs + ca;
@@ -290,13 +317,15 @@ ResultadoIteración IteraciónBishop(Proyecto& p, Interfaz& ui, GuardasBishop& g
         D = (2 * radio * ca - H) * (kh * 0.5 * W) + (1 + kv) * W * radio * sa;
       } else {
         resistente += R * sa * (d.XMedio[i] - xr) - R * ca * (d.YBase[i] - yr);
-        D = (d.XMedio[i] - xr) * (1 + kv) * W - (d.YTalud[i] + d.YBase[i] - 2 * yr) * (kh * 0.5 * W) -
+        D = (d.XMedio[i] - xr) * (1 + kv) * W -
+            (d.YTalud[i] + d.YBase[i] - 2 * yr) * (kh * 0.5 * W) -
             ((d.YBase[i] - yr) * sa + (d.XMedio[i] - xr) * ca) * N;
       }
       motor += D + momentoCargas[i];
       normal[i] = N;
     }
-    const double nuevo = Finito(Div(resistente, motor, "el factor de seguridad"), "el factor de seguridad");
+    const double nuevo =
+        Finito(Div(resistente, motor, "el factor de seguridad"), "el factor de seguridad");
     if (std::fabs(nuevo - fs) < 0.001) {
       d.ÁnguloBase.Redimensionar(n);
       d.FuerzaNormal.Redimensionar(n);
@@ -312,7 +341,9 @@ ResultadoIteración IteraciónBishop(Proyecto& p, Interfaz& ui, GuardasBishop& g
   return {FinIteración::NoConvergió, fs};
 }
 
-void MétodoBishop(Proyecto& p, Interfaz& ui) { MétodoBishopConOpciones(p, ui, OpcionesBishop{}); }
+void MétodoBishop(Proyecto& p, Interfaz& ui) {
+  MétodoBishopConOpciones(p, ui, OpcionesBishop{});
+}
 
 void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& opciones) {
   auto& pi = p.ParámetrosIniciales;
@@ -327,9 +358,11 @@ void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& o
   const HistoriaGuardada historia(p);
   p.NúmeroIteraciones = 0;
   if (Mayúsculas(p.TipoDeMaterial) == "R" && !pi.UsaParámetrosInstantáneos) {
-    ui.Mensaje("Ud. ha considerado el material como una 'ROCA' y no calculará por este método a menos que Ud. "
-               "seleccione parámetros instantáneos.",
-               "No es SUELO:");
+    ui.Mensaje(
+        "Ud. ha considerado el material como una 'ROCA' y no calculará por este método a menos que "
+        "Ud. "
+        "seleccione parámetros instantáneos.",
+        "No es SUELO:");
     historia.Devolver(p);
     return;
   }
@@ -369,9 +402,11 @@ void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& o
   p.SumaTangenciales = p.SumaNormalesTotales = p.SumaNormalesEfectivos = 0;
   for (long i = 1; i <= n; ++i) {
     const double u = d.PresiónPoros[i];
-    const double sigma = Div(std::cos(d.ÁnguloBase[i]) * d.FuerzaNormal[i], d.Ancho[i], "el esfuerzo normal");
+    const double sigma =
+        Div(std::cos(d.ÁnguloBase[i]) * d.FuerzaNormal[i], d.Ancho[i], "el esfuerzo normal");
     d.EsfuerzoNormalTotal[i] = sigma;
-    d.EsfuerzoTangencial[i] = Div((sigma - u) * d.TanFricciónBase[i] + d.CohesiónBase[i], fs, "el esfuerzo tangencial");
+    d.EsfuerzoTangencial[i] =
+        Div((sigma - u) * d.TanFricciónBase[i] + d.CohesiónBase[i], fs, "el esfuerzo tangencial");
     d.EsfuerzoNormalEfectivo[i] = sigma - u;
     p.SumaTangenciales += d.EsfuerzoTangencial[i];
     p.SumaNormalesTotales += sigma;
@@ -382,7 +417,9 @@ void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& o
     pi.CentroY = pi.ReferenciaMomentoY;
   }
   p.CálculoHecho = true;
-  ui.Mensaje("Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Bishop para suelos.");
+  ui.Mensaje(
+      "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Bishop para "
+      "suelos.");
 }
 
 }  // namespace lomaterra

@@ -15,8 +15,12 @@ namespace lomaterra {
 
 namespace {
 
-long UniformesDados(const Proyecto& p) { return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0; }
-long PuntualesDados(const Proyecto& p) { return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0; }
+long UniformesDados(const Proyecto& p) {
+  return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0;
+}
+long PuntualesDados(const Proyecto& p) {
+  return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0;
+}
 
 void AgregarFactor(Proyecto& p, double fs) {
   ++p.NúmeroIteraciones;
@@ -24,19 +28,32 @@ void AgregarFactor(Proyecto& p, double fs) {
   p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones] = fs;
 }
 
-double ÚltimoFactor(const Proyecto& p) { return p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones]; }
+double ÚltimoFactor(const Proyecto& p) {
+  return p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones];
+}
 
 // The working columns of one run, per slice, one-based.
 struct ColumnasJanbu {
   std::vector<double> alfa, W, A, A0, D, D0, na, dE, E, T, dT;
   explicit ColumnasJanbu(long n)
-      : alfa(n + 1), W(n + 1), A(n + 1), A0(n + 1), D(n + 1), D0(n + 1), na(n + 1), dE(n + 1), E(n + 1),
-        T(n + 1), dT(n + 1) {}
+      : alfa(n + 1),
+        W(n + 1),
+        A(n + 1),
+        A0(n + 1),
+        D(n + 1),
+        D0(n + 1),
+        na(n + 1),
+        dE(n + 1),
+        E(n + 1),
+        T(n + 1),
+        dT(n + 1) {}
 };
 
 }  // namespace
 
-void MétodoJanbu(Proyecto& p, Interfaz& ui) { MétodoJanbuConLímite(p, ui, kLímitePasadas); }
+void MétodoJanbu(Proyecto& p, Interfaz& ui) {
+  MétodoJanbuConLímite(p, ui, kLímitePasadas);
+}
 
 void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
   auto& pi = p.ParámetrosIniciales;
@@ -84,7 +101,8 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
   auto hacerNa = [&](double F) {
     for (long i = 1; i <= n; ++i) {
       const double ca = std::cos(c.alfa[i]);
-      c.na[i] = ca * ca * (1 + Div(std::tan(c.alfa[i]) * d.TanFricciónBase[i], F, "el factor de seguridad"));
+      c.na[i] = ca * ca *
+                (1 + Div(std::tan(c.alfa[i]) * d.TanFricciónBase[i], F, "el factor de seguridad"));
     }
   };
   auto sumas = [&](double& resistente, double& motor) {
@@ -95,7 +113,8 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
     }
   };
   auto factor = [&](double resistente, double motor) {
-    return Finito(Div(resistente, empujeGrieta + motor, "el factor de seguridad"), "el factor de seguridad");
+    return Finito(Div(resistente, empujeGrieta + motor, "el factor de seguridad"),
+                  "el factor de seguridad");
   };
 
   // First forces, with no shear between slices.
@@ -142,11 +161,12 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
   auto& ht = d.AlturaEmpuje;
   bool alturasDelPrograma = true;
   if (p.CálculoHecho && p.JanbuCalculado)
-    alturasDelPrograma =
-        ui.Pregunta("Desea que sea el programa el que fije la altura de aplicación de las fuerzas laterales?");
+    alturasDelPrograma = ui.Pregunta(
+        "Desea que sea el programa el que fije la altura de aplicación de las fuerzas laterales?");
   if (alturasDelPrograma) {
     ht.Redimensionar(p.NúmeroBordes);
-    for (long i = 2; i <= p.NúmeroBordes; ++i) ht[i - 1] = (d.BordeYTalud[i] - d.BordeYFalla[i]) / 3;
+    for (long i = 2; i <= p.NúmeroBordes; ++i)
+      ht[i - 1] = (d.BordeYTalud[i] - d.BordeYFalla[i]) / 3;
   } else {
     ht.RedimensionarConservando(std::max<long>(p.NúmeroBordes, ht.Tamaño()));
   }
@@ -160,8 +180,8 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
   for (int pasada = 1; pasada <= límitePasadas && !terminada; ++pasada) {
     const double F = ÚltimoFactor(p);
     for (long i = 1; i <= n - 1; ++i)
-      inclinación[i] = std::atan(Div(std::tan(c.alfa[i + 1]) * d.Ancho[i + 1] + ht[i] - ht[i + 1], d.Ancho[i + 1],
-                                     "la inclinación de la línea de empuje"));
+      inclinación[i] = std::atan(Div(std::tan(c.alfa[i + 1]) * d.Ancho[i + 1] + ht[i] - ht[i + 1],
+                                     d.Ancho[i + 1], "la inclinación de la línea de empuje"));
     for (long i = 1; i <= n; ++i) {
       c.dE[i] = c.D[i] - Div(c.A[i], F * c.na[i], "el empuje de una dovela");
       c.E[i] = c.dE[i] + (i > 1 ? c.E[i - 1] : 0.0);
@@ -170,24 +190,33 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
     for (long i = 1; i <= n - 1; ++i) {
       const long j = i + 1;
       const double bi = d.Ancho[i], bj = d.Ancho[j];
-      double T = -std::tan(inclinación[i]) * c.E[i] + Div(c.dE[j] + c.dE[i], bj + bi, "el cortante entre dovelas") * ht[i];
-      T -= Div((d.YTalud[i] - d.YBase[i]) * (kh * 0.5 * c.W[i]), bi + bi, "el cortante entre dovelas");
-      T -= Div((d.YTalud[j] - d.YBase[j]) * (kh * 0.5 * c.W[j]), bj + bj, "el cortante entre dovelas");
+      double T = -std::tan(inclinación[i]) * c.E[i] +
+                 Div(c.dE[j] + c.dE[i], bj + bi, "el cortante entre dovelas") * ht[i];
+      T -= Div((d.YTalud[i] - d.YBase[i]) * (kh * 0.5 * c.W[i]), bi + bi,
+               "el cortante entre dovelas");
+      T -= Div((d.YTalud[j] - d.YBase[j]) * (kh * 0.5 * c.W[j]), bj + bj,
+               "el cortante entre dovelas");
       double S = 0;
       for (long k = 1; k <= PuntualesDados(p); ++k) {
         const auto& q = p.CargaPuntual;
-        if (CargaPuntualEnDovela(p, k, i)) S += Div((q.Xpuntual[k] - d.XMedio[i]) * (q.Py[k] * 0.5), bi);
-        if (CargaPuntualEnDovela(p, k, j)) S += Div((q.Xpuntual[k] - d.XMedio[j]) * (q.Py[k] * 0.5), bj);
+        if (CargaPuntualEnDovela(p, k, i))
+          S += Div((q.Xpuntual[k] - d.XMedio[i]) * (q.Py[k] * 0.5), bi);
+        if (CargaPuntualEnDovela(p, k, j))
+          S += Div((q.Xpuntual[k] - d.XMedio[j]) * (q.Py[k] * 0.5), bj);
       }
       for (long k = 1; k <= PuntualesDados(p); ++k) {
         const auto& q = p.CargaPuntual;
-        if (CargaPuntualEnDovela(p, k, i)) S += Div((q.Ypuntual[k] - d.YBase[i]) * (q.Px[k] * 0.5), bi);
-        if (CargaPuntualEnDovela(p, k, j)) S += Div((q.Ypuntual[k] - d.YBase[j]) * (q.Px[k] * 0.5), bj);
+        if (CargaPuntualEnDovela(p, k, i))
+          S += Div((q.Ypuntual[k] - d.YBase[i]) * (q.Px[k] * 0.5), bi);
+        if (CargaPuntualEnDovela(p, k, j))
+          S += Div((q.Ypuntual[k] - d.YBase[j]) * (q.Px[k] * 0.5), bj);
       }
       for (long k = 1; k <= UniformesDados(p); ++k) {
         const double qx = p.CargaUniforme.qx[k];
-        if (CargaUniformeSobreDovela(p, k, i)) S += qx * 0.5 * d.PendienteTalud[i] * (d.YTalud[i] - d.YBase[i]);
-        if (CargaUniformeSobreDovela(p, k, j)) S += qx * 0.5 * d.PendienteTalud[j] * (d.YTalud[j] - d.YBase[j]);
+        if (CargaUniformeSobreDovela(p, k, i))
+          S += qx * 0.5 * d.PendienteTalud[i] * (d.YTalud[i] - d.YBase[i]);
+        if (CargaUniformeSobreDovela(p, k, j))
+          S += qx * 0.5 * d.PendienteTalud[j] * (d.YTalud[j] - d.YBase[j]);
       }
       c.T[i] = S + T;
     }
@@ -249,7 +278,9 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
   }
   p.CálculoHecho = true;
   p.JanbuCalculado = true;
-  ui.Mensaje("Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para suelos.");
+  ui.Mensaje(
+      "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para "
+      "suelos.");
 }
 
 }  // namespace lomaterra

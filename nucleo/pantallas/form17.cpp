@@ -16,9 +16,10 @@ constexpr int kColumnaNuevo = 3;  // zero-based column "Nuevo ht(m)"
 Form17::Form17(Proyecto& p) : p_(p) {
   nombre = "Form17";
   título = "Opción para cambio de altura entre dovelas";
-  campos = {{"TextoNuevoValorDeht", "Nuevo valor de ht (m)", "",
-             "Altura de aplicación de la fuerza lateral sobre la superficie de falla, para la dovela "
-             "seleccionada en la lista"}};
+  campos = {
+      {"TextoNuevoValorDeht", "Nuevo valor de ht (m)", "",
+       "Altura de aplicación de la fuerza lateral sobre la superficie de falla, para la dovela "
+       "seleccionada en la lista"}};
   ListaPantalla lista;
   lista.nombre = "ListaValoresDEht";
   lista.columnas = {"Dovela", "alfa_t (radianes)", "  ht (m)", "Nuevo ht(m)"};
@@ -28,7 +29,8 @@ Form17::Form17(Proyecto& p) : p_(p) {
     const int fila = l.seleccionada;
     if (fila < 1 || fila > static_cast<int>(l.filas.size())) return;
     const auto& nuevo = nuevos_[static_cast<std::size_t>(fila)];
-    texto("TextoNuevoValorDeht") = NúmeroATexto(nuevo ? *nuevo : p_.TablaDovelas.AlturaEmpuje.Leer(fila));
+    texto("TextoNuevoValorDeht") =
+        NúmeroATexto(nuevo ? *nuevo : p_.TablaDovelas.AlturaEmpuje.Leer(fila));
   };
   listas.push_back(lista);
   botones = {{"Modificar", "&Modificar", [this](Interfaz& ui) { Modificar(ui); }},
@@ -82,13 +84,15 @@ void Form17::BotónAceptar(Interfaz& ui) {
   const std::size_t n = nuevos_.empty() ? 0 : nuevos_.size() - 1;
   for (std::size_t i = 1; i <= n; ++i)
     if (!nuevos_[i]) {
-      ui.Mensaje("Faltan datos. Debe introducir los valores deseados para todos y cada una de las dovelas",
-                 kTítuloValores);
+      ui.Mensaje(
+          "Faltan datos. Debe introducir los valores deseados para todos y cada una de las dovelas",
+          kTítuloValores);
       return;
     }
   for (std::size_t i = 1; i < n; ++i)
     if (*nuevos_[i] == 0 && *nuevos_[i + 1] == 0) {
-      ui.Mensaje("Parece que Ud. va  a trabajar con ht que no pueden ser correctos", kTítuloValores);
+      ui.Mensaje("Parece que Ud. va  a trabajar con ht que no pueden ser correctos",
+                 kTítuloValores);
       return;
     }
   auto& ht = p_.TablaDovelas.AlturaEmpuje;
@@ -98,7 +102,8 @@ void Form17::BotónAceptar(Interfaz& ui) {
 }
 
 void Form17::BotónSalir(Interfaz& ui) {
-  if (hayNuevos_ && ui.Pregunta("Ud. desea utilizar los nuevos valores  de ht para el cálculo?")) return;
+  if (hayNuevos_ && ui.Pregunta("Ud. desea utilizar los nuevos valores  de ht para el cálculo?"))
+    return;
   cerrada = true;
 }
 

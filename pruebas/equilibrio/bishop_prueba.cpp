@@ -14,7 +14,9 @@
 namespace lomaterra {
 namespace {
 
-const char* const kFin = "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Bishop para suelos.";
+const char* const kFin =
+    "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Bishop para "
+    "suelos.";
 
 // Three slices under an arc of radius 5 centred at (0, 5). Their middles at x = 3, 1.4 and 0 give
 // sin a = 0.6, 0.28, 0 (cos a = 0.8, 0.96, 1) and lie on the arc: y = 1, 0.2, 0.
@@ -39,7 +41,8 @@ void TresDovelas(Proyecto& p) {
   p.TramoFalla.PuntoFinal[1] = 2;
   p.Trabajo.YPrimerPuntoFalla = 2;
   p.Trabajo.YÚltimoPuntoFalla = 0.06;
-  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = true;
+  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = p.EtapaGeometría = p.EtapaEstratos =
+      p.EtapaPoros = true;
 
   auto& d = p.TablaDovelas;
   p.NúmeroBordes = 4;
@@ -67,7 +70,8 @@ void TresDovelas(Proyecto& p) {
 // m_a = cos a + sin a tan phi / F. Its driving side on the arc is sum (1 + kv) W Radio sin a plus
 // the seismic moment (2 Radio cos a - H) kh W / 2.
 double BishopDeLibro(double F, double kh = 0, double kv = 0, std::vector<double> H = {4, 3, 1}) {
-  const double s[] = {0.6, 0.28, 0}, co[] = {0.8, 0.96, 1}, b[] = {2, 1.2, 1.6}, W[] = {16, 7.2, 3.2}, u[] = {0, 0.5, 1};
+  const double s[] = {0.6, 0.28, 0}, co[] = {0.8, 0.96, 1}, b[] = {2, 1.2, 1.6},
+               W[] = {16, 7.2, 3.2}, u[] = {0, 0.5, 1};
   double resiste = 0, mueve = 0;
   for (int i = 0; i < 3; ++i) {
     resiste += (2 * b[i] + ((1 + kv) * W[i] - u[i] * b[i]) * 0.5) / (co[i] + s[i] * 0.5 / F);
@@ -77,8 +81,8 @@ double BishopDeLibro(double F, double kh = 0, double kv = 0, std::vector<double>
 }
 
 TEST(Bishop, ArcoDeTresDovelasALaMano) {
-  // Pass 1 from F = 1: m_a = 0.8 + 0.3 = 1.1, 0.96 + 0.14 = 1.1, 1; numerators c b + (W - u b) tan phi
-  // = 4 + 8 = 12, 2.4 + 3.3 = 5.7, 3.2 + 0.8 = 4; driving 5 * (16 * 0.6 + 7.2 * 0.28) = 58.08.
+  // Pass 1 from F = 1: m_a = 0.8 + 0.3 = 1.1, 0.96 + 0.14 = 1.1, 1; numerators c b + (W - u b) tan
+  // phi = 4 + 8 = 12, 2.4 + 3.3 = 5.7, 3.2 + 0.8 = 4; driving 5 * (16 * 0.6 + 7.2 * 0.28) = 58.08.
   // F1 = (12/1.1 + 5.7/1.1 + 4) / 58.08 = 0.345918. Then 0.264706, 0.241654, 0.233834, 0.231024,
   // F6 = 0.229994, F7 = 0.229613: |F7 - F6| < 0.001 stops.
   Proyecto p;
@@ -111,7 +115,8 @@ TEST(Bishop, ConvergeDesdeArribaYDesdeAbajo) {
   // The fixed point of the sum is 0.229389. From 3: 0.395929, 0.276220, 0.245321, 0.235123,
   // 0.231493, 0.230167, 0.229677. From 0.5: 0.295596, 0.251169, 0.237143, 0.232223, 0.230435,
   // 0.229776.
-  for (const auto& [inicial, esperado] : std::map<double, double>{{3.0, 0.229677}, {0.5, 0.229776}}) {
+  for (const auto& [inicial, esperado] :
+       std::map<double, double>{{3.0, 0.229677}, {0.5, 0.229776}}) {
     Proyecto p;
     TresDovelas(p);
     p.ParámetrosIniciales.FSInicial = inicial;
@@ -136,7 +141,8 @@ TEST(Bishop, ConSismoYAguaSobreElTaludElResultadoEsPuntoFijo) {
   MétodoBishop(p, ui);
   const double fs = p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones];
   EXPECT_NEAR(BishopDeLibro(fs, 0.1, 0.05, {4, 3, 6}), fs, 0.0005);
-  EXPECT_GT(std::fabs(BishopDeLibro(fs, 0.1, 0.05, {4, 3, 1}) - fs), 0.001);  // the H branch matters
+  EXPECT_GT(std::fabs(BishopDeLibro(fs, 0.1, 0.05, {4, 3, 1}) - fs),
+            0.001);  // the H branch matters
 }
 
 TEST(Bishop, SuperficieNoCircularTomaMomentosEnLaReferencia) {
@@ -177,15 +183,22 @@ struct ResultadosPrevios {
 };
 
 const std::string kGuarda1 =
-    "Existe alguna dovela donde el esfuerzo efectivo se hace cero o menor que cero. Problamente las presiones de "
-    "poros son elevadas en esa dovela.  Puede reajustar las presiones de poros en el menú Equilibrio Límite en la "
-    "opción 'Cambio de parámetros de resistencia' o  aplique otro método y compare resultados. Si desea que el "
-    "programa continúe  y no ver más este mensaje para otra dovela presione <SI> y Si desea salir del cálculo  "
+    "Existe alguna dovela donde el esfuerzo efectivo se hace cero o menor que cero. Problamente "
+    "las presiones de "
+    "poros son elevadas en esa dovela.  Puede reajustar las presiones de poros en el menú "
+    "Equilibrio Límite en la "
+    "opción 'Cambio de parámetros de resistencia' o  aplique otro método y compare resultados. Si "
+    "desea que el "
+    "programa continúe  y no ver más este mensaje para otra dovela presione <SI> y Si desea salir "
+    "del cálculo  "
     "presione <NO> .?";
 const std::string kGuarda2 =
-    "Alguna dovela no cumple con ciertas condiciones de angulos o dimensiones. Cambie las dimensiones de las "
-    "dovelas o geometría de la SPF, y si aún con este cambio no se obtiene el chequeo, entonces abandone el "
-    "análisis por este método. Si desea que el programa continúe  y no ver más este mensaje para otra dovela "
+    "Alguna dovela no cumple con ciertas condiciones de angulos o dimensiones. Cambie las "
+    "dimensiones de las "
+    "dovelas o geometría de la SPF, y si aún con este cambio no se obtiene el chequeo, entonces "
+    "abandone el "
+    "análisis por este método. Si desea que el programa continúe  y no ver más este mensaje para "
+    "otra dovela "
     "presione <SI> y Si desea salir del cálculo  presione <NO> .?";
 
 int Veces(const InterfazGuionada& ui, const std::string& texto) {
@@ -254,7 +267,8 @@ TEST(Bishop, SinConvergenciaSeDetieneConAviso) {
   MétodoBishopConOpciones(p, ui, op);
   EXPECT_EQ(ui.Transcripción().back().título, "Sin convergencia:");
   EXPECT_EQ(ui.Textos().back(),
-            "El cálculo por el método de Bishop no convergió en 3 iteraciones. El factor de seguridad de la "
+            "El cálculo por el método de Bishop no convergió en 3 iteraciones. El factor de "
+            "seguridad de la "
             "última iteración fue 0.242. No se guardó ningún resultado.");
   EXPECT_FALSE(p.CálculoHecho);
   EXPECT_EQ(p.NúmeroIteraciones, 2);
@@ -266,8 +280,8 @@ TEST(Bishop, SinConvergenciaSeDetieneConAviso) {
 // A search between the ends (10, 2) and (0, 0): chord sqrt(104) = 10.198, so radii below 5.099 have
 // no arc. The stages are replaced by one slice whose factor is a chosen function of the radius:
 // with tan phi = 0 the factor is c l / (W Radio sin a) whatever the start, so with the middle at
-// CentroX + 0.05 Radio (sin a = 0.05, l = 1 / cos a) and W = 10, c = FS W Radio sin a cos a gives FS.
-// (N = W (1 - Radio sin^2 a) stays positive up to Radio 400.)
+// CentroX + 0.05 Radio (sin a = 0.05, l = 1 / cos a) and W = 10, c = FS W Radio sin a cos a gives
+// FS. (N = W (1 - Radio sin^2 a) stays positive up to Radio 400.)
 struct Búsqueda {
   Proyecto p;
   std::vector<double> radios;  // radius of every rerun of the stages
@@ -436,22 +450,40 @@ std::vector<std::string> Líneas(const std::vector<Apunte>& apuntes) {
   return r;
 }
 
-Apunte Msj(std::string título, std::string texto) { return {"mensaje", std::move(título), std::move(texto), ""}; }
-Apunte Preg(std::string texto, bool sí) { return {"pregunta", "", std::move(texto), sí ? "S" : "N"}; }
+Apunte Msj(std::string título, std::string texto) {
+  return {"mensaje", std::move(título), std::move(texto), ""};
+}
+Apunte Preg(std::string texto, bool sí) {
+  return {"pregunta", "", std::move(texto), sí ? "S" : "N"};
+}
 
 const char* const kDesembalse = "Está analizando desembalse rápido en presas de tierra?";
 
 TEST(BishopPuertas, PalabraPorPalabra) {
   const std::string ojo = "OJO PELAO con este mensaje:";
   const CasoPuerta casos[] = {
-      {"sin tipo", [](Proyecto& p) { p.TipoDeAnálisis = ""; }, "", {Msj("", "Seleccione en la pantalla principal la opción <T> ó <F>")}},
-      {"elementos", [](Proyecto& p) { p.TipoDeAnálisis = "F"; }, "", {Msj("", "Ud. está trabajando con elementos finitos")}},
-      {"parámetros", [](Proyecto& p) { p.ParámetrosInicialesDados = false; }, "",
-       {Msj("Parámetros iniciales:", "Faltan los parámetros iniciales de cálculo. Vaya a la opción Equilibrio límite.")}},
-      {"recalcular no", [](Proyecto& p) { p.CálculoHecho = true; }, "NN",
+      {"sin tipo",
+       [](Proyecto& p) { p.TipoDeAnálisis = ""; },
+       "",
+       {Msj("", "Seleccione en la pantalla principal la opción <T> ó <F>")}},
+      {"elementos",
+       [](Proyecto& p) { p.TipoDeAnálisis = "F"; },
+       "",
+       {Msj("", "Ud. está trabajando con elementos finitos")}},
+      {"parámetros",
+       [](Proyecto& p) { p.ParámetrosInicialesDados = false; },
+       "",
+       {Msj("Parámetros iniciales:",
+            "Faltan los parámetros iniciales de cálculo. Vaya a la opción Equilibrio límite.")}},
+      {"recalcular no",
+       [](Proyecto& p) { p.CálculoHecho = true; },
+       "NN",
        {Preg(kDesembalse, false), Preg("El cálculo ya está hecho, ¿Desea recalcular?", false)}},
-      {"método", [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 4; }, "S",
-       {Preg(kDesembalse, true), Msj("No es el METODO:", "Ud. no ha seleccionado este método de cálculo")}},
+      {"método",
+       [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 4; },
+       "S",
+       {Preg(kDesembalse, true),
+        Msj("No es el METODO:", "Ud. no ha seleccionado este método de cálculo")}},
       {"grieta",
        [](Proyecto& p) {
          p.GrietaTracción.OrdenadaPrimerPunto = 3;
@@ -463,27 +495,37 @@ TEST(BishopPuertas, PalabraPorPalabra) {
          p.CoordenadasFalla.Y[1] = 2;
        },
        "N",
-       {Preg(kDesembalse, false),
-        Msj(ojo, "Las coordenadas del segundo pto de la grieta deben ser exactamente iguales a las coordenadas del "
-                 "primer punto de la superficie de falla, por favor revise las coordenadas de la superficie de falla "
-                 "y las coordenadas de la grieta.")}},
+       {Preg(kDesembalse, false), Msj(ojo,
+                                      "Las coordenadas del segundo pto de la grieta deben ser "
+                                      "exactamente iguales a las coordenadas del "
+                                      "primer punto de la superficie de falla, por favor revise "
+                                      "las coordenadas de la superficie de falla "
+                                      "y las coordenadas de la grieta.")}},
       {"nivel en la grieta",
        [](Proyecto& p) {
          p.GrietaTracción.OrdenadaNF = 1.5;
          p.GrietaTracción.AbscisaNF = 4;
        },
        "N",
+       {Preg(kDesembalse, false), Msj(ojo,
+                                      "Las coordenadas del N.F en la grieta deben ser exactamente "
+                                      "iguales a la primera coordenada del N.F "
+                                      "que Ud debe dar. Por favor revise las coordenadas del N.F y "
+                                      "la coordenada del N.F en la grieta.")}},
+      {"roca",
+       [](Proyecto& p) { p.TipoDeMaterial = "R"; },
+       "N",
+       {Preg(kDesembalse, false), Msj("No es SUELO:",
+                                      "Ud. ha considerado el material como una 'ROCA' y no "
+                                      "calculará por este método a menos que "
+                                      "Ud. seleccione parámetros instantáneos.")}},
+      {"instantáneos sin preparar",
+       [](Proyecto& p) { p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S"; },
+       "N",
        {Preg(kDesembalse, false),
-        Msj(ojo, "Las coordenadas del N.F en la grieta deben ser exactamente iguales a la primera coordenada del N.F "
-                 "que Ud debe dar. Por favor revise las coordenadas del N.F y la coordenada del N.F en la grieta.")}},
-      {"roca", [](Proyecto& p) { p.TipoDeMaterial = "R"; }, "N",
-       {Preg(kDesembalse, false),
-        Msj("No es SUELO:", "Ud. ha considerado el material como una 'ROCA' y no calculará por este método a menos que "
-                            "Ud. seleccione parámetros instantáneos.")}},
-      {"instantáneos sin preparar", [](Proyecto& p) { p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S"; }, "N",
-       {Preg(kDesembalse, false),
-        Msj("No es el camino:", "Este problema corresponde al método de parámetros instantáneos por favor "
-                                "seleccione:Suelos o Rocas (parámetros instantáneos c,fi). ")}},
+        Msj("No es el camino:",
+            "Este problema corresponde al método de parámetros instantáneos por favor "
+            "seleccione:Suelos o Rocas (parámetros instantáneos c,fi). ")}},
       {"instantáneos no",
        [](Proyecto& p) {
          p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S";
@@ -491,8 +533,9 @@ TEST(BishopPuertas, PalabraPorPalabra) {
          p.ParámetrosInstantáneosCalculados = true;
        },
        "NN",
-       {Preg(kDesembalse, false),
-        Preg("Ud. está calculando por el método de parámetros instantáneos. ¿Desea continuar el cálculo?", false)}},
+       {Preg(kDesembalse, false), Preg("Ud. está calculando por el método de parámetros "
+                                       "instantáneos. ¿Desea continuar el cálculo?",
+                                       false)}},
       {"instantáneos gráficos",
        [](Proyecto& p) {
          auto& pi = p.ParámetrosIniciales;
@@ -503,9 +546,12 @@ TEST(BishopPuertas, PalabraPorPalabra) {
        },
        "NS",
        {Preg(kDesembalse, false),
-        Preg("Ud. está calculando por el método de parámetros instantáneos. ¿Desea continuar el cálculo?", true),
+        Preg("Ud. está calculando por el método de parámetros instantáneos. ¿Desea continuar el "
+             "cálculo?",
+             true),
         Msj("Cambie los valores si lo requiere.",
-            "A continuación se presenta la pantalla de la sesión 'Cambio de parámetros de resistencia' para que  dé  "
+            "A continuación se presenta la pantalla de la sesión 'Cambio de parámetros de "
+            "resistencia' para que  dé  "
             "los valores de cohesión, fricción y presión de poros  para cada dovela."),
         Msj("", kFin)}},
   };
@@ -516,7 +562,9 @@ TEST(BishopPuertas, PalabraPorPalabra) {
     InterfazGuionada ui(c.respuestas);
     MétodoBishop(p, ui);
     EXPECT_EQ(Líneas(ui.Transcripción()), Líneas(c.esperado)) << c.nombre;
-    EXPECT_EQ(p.CálculoHecho, c.esperado.back().texto == kFin || std::string(c.nombre) == "recalcular no") << c.nombre;
+    EXPECT_EQ(p.CálculoHecho,
+              c.esperado.back().texto == kFin || std::string(c.nombre) == "recalcular no")
+        << c.nombre;
   }
 }
 
@@ -526,11 +574,12 @@ TEST(BishopPuertas, LaPreguntaDeLasEtapasYElTranscritoCompleto) {
   InterfazGuionada ui("NN");
   MétodoBishop(p, ui);
   EXPECT_EQ(Líneas(ui.Transcripción()),
-            Líneas(std::vector<Apunte>{Preg(kDesembalse, false),
-                                 Preg("¿Es primera vez que está haciendo el cálculo o modificó las características "
-                                      "geométricas o geomecánicas del problema o niveles freáticos?",
-                                      false),
-                                 Msj("", kFin)}));
+            Líneas(std::vector<Apunte>{
+                Preg(kDesembalse, false),
+                Preg("¿Es primera vez que está haciendo el cálculo o modificó las características "
+                     "geométricas o geomecánicas del problema o niveles freáticos?",
+                     false),
+                Msj("", kFin)}));
 }
 
 // --- With the real stages ------------------------------------------------------------------------
@@ -557,7 +606,8 @@ TEST(BishopConEtapas, BúsquedaDelRadioSobreElEjemploACADS) {
   EXPECT_GE(p.NúmeroIteraciones, 3);  // R0, at least one step, and the final pass
   // The result is the least factor found: no row of the history lies below the last one.
   const double fs = p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones];
-  for (long k = 1; k < p.NúmeroIteraciones; ++k) EXPECT_GE(p.HistoriaIteraciones.FactorDeSeguridad[k], fs - 1e-12) << k;
+  for (long k = 1; k < p.NúmeroIteraciones; ++k)
+    EXPECT_GE(p.HistoriaIteraciones.FactorDeSeguridad[k], fs - 1e-12) << k;
 }
 
 }  // namespace

@@ -14,10 +14,13 @@
 namespace lomaterra {
 namespace {
 
-const char* const kFin = "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para suelos.";
+const char* const kFin =
+    "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para "
+    "suelos.";
 const char* const kDesembalse = "Está analizando desembalse rápido en presas de tierra?";
 const char* const kEtapas =
-    "¿Es primera vez que está haciendo el cálculo o modificó las características geométricas o geomecánicas del "
+    "¿Es primera vez que está haciendo el cálculo o modificó las características geométricas o "
+    "geomecánicas del "
     "problema o niveles freáticos?";
 const char* const kSolución = "¿Considera que es la solución?";
 const char* const kSalir = "¿Desea salir del cálculo?";
@@ -48,7 +51,8 @@ void TresDovelas(Proyecto& p) {
   p.TramoFalla.TipoUnión[1] = "L";
   p.Trabajo.YPrimerPuntoFalla = 2;
   p.Trabajo.YÚltimoPuntoFalla = 0;
-  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = true;
+  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = p.EtapaGeometría = p.EtapaEstratos =
+      p.EtapaPoros = true;
 
   auto& d = p.TablaDovelas;
   p.NúmeroBordes = 4;
@@ -86,22 +90,24 @@ void TresDovelas(Proyecto& p) {
 
 std::vector<double> Historia(const Proyecto& p) {
   std::vector<double> r;
-  for (long i = 1; i <= p.NúmeroIteraciones; ++i) r.push_back(p.HistoriaIteraciones.FactorDeSeguridad[i]);
+  for (long i = 1; i <= p.NúmeroIteraciones; ++i)
+    r.push_back(p.HistoriaIteraciones.FactorDeSeguridad[i]);
   return r;
 }
 
 void CercaDe(const std::vector<double>& real, const std::vector<double>& esperado, double tol) {
   ASSERT_EQ(real.size(), esperado.size());
-  for (std::size_t i = 0; i < real.size(); ++i) EXPECT_NEAR(real[i], esperado[i], tol) << "fila " << i + 1;
+  for (std::size_t i = 0; i < real.size(); ++i)
+    EXPECT_NEAR(real[i], esperado[i], tol) << "fila " << i + 1;
 }
 
 TEST(Janbu, TresDovelasALaMano) {
   // First forces (V = W (1 + kv) + loads):
   //   1: V = 16.8 + 2 * 0.5 = 17.8; A0 = 17.8 * 0.5 + 2 * 2 = 12.9;
   //      D0 = 0.75 * 17.8 + 0.1 * 16 - 2 * 0.2 * 1.3 = 14.43
-  //   2: V = 7.56 + 1 = 8.56; A0 = (8.56 - 0.6) * 0.5 + 2.4 = 6.38; D0 = 8.56 * 7/24 + 0.72 - 0.4 = 2.816667
-  //   3: V = 3.36; A0 = (3.36 - 1.6) * 0.5 + 3.2 = 4.08; D0 = 0.32
-  //   n_a at F = 1: 0.64 * 1.375 = 0.88, 0.9216 * (1 + 7/48) = 1.056, 1
+  //   2: V = 7.56 + 1 = 8.56; A0 = (8.56 - 0.6) * 0.5 + 2.4 = 6.38; D0 = 8.56 * 7/24 + 0.72 - 0.4
+  //   = 2.816667 3: V = 3.36; A0 = (3.36 - 1.6) * 0.5 + 3.2 = 4.08; D0 = 0.32 n_a at F = 1: 0.64
+  //   * 1.375 = 0.88, 0.9216 * (1 + 7/48) = 1.056, 1
   // Zero shear: F = (12.9/0.88 + 6.38/1.056 + 4.08) / 17.566667 = 1.410669, then 1.495871,
   // 1.508761, 1.510607, 1.510869.
   // Pass 1 (F = 1.510869): alfa_t = atan((0.2916667 * 1.2 + 1 - 0.5) / 1.2) = 0.616297 and
@@ -112,7 +118,9 @@ TEST(Janbu, TresDovelasALaMano) {
   TresDovelas(p);
   InterfazGuionada ui("NN");
   MétodoJanbu(p, ui);
-  CercaDe(Historia(p), {1.0, 1.410669, 1.495871, 1.508761, 1.510607, 1.510869, 1.620063, 1.633210, 1.634453, 1.634500},
+  CercaDe(Historia(p),
+          {1.0, 1.410669, 1.495871, 1.508761, 1.510607, 1.510869, 1.620063, 1.633210, 1.634453,
+           1.634500},
           1e-6);
   // Close with F = 1.634500 and kv of the opposite sign: Vf = W + dT - kv W + loads;
   // tau = cos^2 a A / (F n_a b); sigma = Vf / b - tan a tau.
@@ -158,7 +166,8 @@ TEST(Janbu, UnaDovelaSinBordeInterior) {
   TresDovelas(p);
   p.NúmeroBordes = 2;
   p.CargasUniformesDadas = p.CargasPuntualesDadas = false;
-  p.ParámetrosIniciales.CoeficienteSísmicoHorizontal = p.ParámetrosIniciales.CoeficienteSísmicoVertical = 0;
+  p.ParámetrosIniciales.CoeficienteSísmicoHorizontal =
+      p.ParámetrosIniciales.CoeficienteSísmicoVertical = 0;
   InterfazGuionada ui("NN");
   MétodoJanbu(p, ui);
   CercaDe(Historia(p), {1.0, 1.136364, 1.174812, 1.184430, 1.186762, 1.187323, 1.187457}, 1e-6);
@@ -175,7 +184,8 @@ TEST(Janbu, LaGrietaSoloEntraEnElDenominador) {
   p.GrietaTracción.EmpujeGrieta = 5;
   InterfazGuionada ui("NN");
   MétodoJanbu(p, ui);
-  EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[2], (12.9 / 0.88 + 6.38 / 1.056 + 4.08) / (5 + 17.566667), 1e-6);
+  EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[2],
+              (12.9 / 0.88 + 6.38 / 1.056 + 4.08) / (5 + 17.566667), 1e-6);
 }
 
 TEST(Janbu, UnaSoluciónAceptadaTerminaAntes) {
@@ -212,7 +222,9 @@ TEST(Janbu, LaPreguntaDeAlturasGuardaLasAnteriores) {
   InterfazGuionada ui("NSNN");  // drawdown, recalculate, stages, heights of the program: No
   MétodoJanbu(p, ui);
   const auto t = ui.Textos();
-  EXPECT_EQ(t[3], "Desea que sea el programa el que fije la altura de aplicación de las fuerzas laterales?");
+  EXPECT_EQ(
+      t[3],
+      "Desea que sea el programa el que fije la altura de aplicación de las fuerzas laterales?");
   EXPECT_EQ(p.TablaDovelas.AlturaEmpuje[1], 2);
   EXPECT_EQ(p.TablaDovelas.AlturaEmpuje[3], 0.5);
   EXPECT_EQ(t.back(), kFin);
@@ -245,7 +257,8 @@ TEST(Janbu, SinConvergenciaTrasQuinientasPasadas) {
   EXPECT_EQ(aperturas, 500);
   ASSERT_EQ(ui.Transcripción().back().título, "Sin convergencia:");
   const std::string t = ui.Textos().back();
-  EXPECT_EQ(t.rfind("El cálculo por el método de Janbu no convergió en 500 iteraciones. El factor de seguridad de la "
+  EXPECT_EQ(t.rfind("El cálculo por el método de Janbu no convergió en 500 iteraciones. El factor "
+                    "de seguridad de la "
                     "última iteración fue ",
                     0),
             0u)
@@ -264,7 +277,8 @@ TEST(Janbu, LímiteDeLaPrimeraIteración) {
   InterfazGuionada ui("NN");
   MétodoJanbuConLímite(p, ui, 2);
   EXPECT_EQ(ui.Textos().back(),
-            "El cálculo por el método de Janbu no convergió en 2 iteraciones. El factor de seguridad de la última "
+            "El cálculo por el método de Janbu no convergió en 2 iteraciones. El factor de "
+            "seguridad de la última "
             "iteración fue 1.496. No se guardó ningún resultado.");
   EXPECT_FALSE(p.CálculoHecho);
 }
@@ -280,14 +294,23 @@ TEST(JanbuPuertas, PalabraPorPalabra) {
   };
   const std::string desembalse = "[pregunta]  | " + std::string(kDesembalse) + " -> N";
   const Caso casos[] = {
-      {"sin tipo", [](Proyecto& p) { p.TipoDeAnálisis = ""; }, "",
+      {"sin tipo",
+       [](Proyecto& p) { p.TipoDeAnálisis = ""; },
+       "",
        {"[mensaje]  | Seleccione en la pantalla principal la opción <T> ó <F>"}},
-      {"parámetros", [](Proyecto& p) { p.ParámetrosInicialesDados = false; }, "",
-       {"[mensaje] Parámetros iniciales: | Faltan los parámetros iniciales de cálculo. Vaya a la opción Equilibrio "
+      {"parámetros",
+       [](Proyecto& p) { p.ParámetrosInicialesDados = false; },
+       "",
+       {"[mensaje] Parámetros iniciales: | Faltan los parámetros iniciales de cálculo. Vaya a la "
+        "opción Equilibrio "
         "límite."}},
-      {"recalcular", [](Proyecto& p) { p.CálculoHecho = true; }, "NN",
+      {"recalcular",
+       [](Proyecto& p) { p.CálculoHecho = true; },
+       "NN",
        {desembalse, "[pregunta]  | El cálculo ya está hecho, ¿Desea recalcular? -> N"}},
-      {"método", [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 2; }, "N",
+      {"método",
+       [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 2; },
+       "N",
        {desembalse, "[mensaje] No es el METODO: | Ud. no ha seleccionado este método de cálculo"}},
       {"grieta",
        [](Proyecto& p) {
@@ -296,14 +319,21 @@ TEST(JanbuPuertas, PalabraPorPalabra) {
        },
        "N",
        {desembalse,
-        "[mensaje] OJO PELAO con este mensaje: | Las coordenadas del segundo pto de la grieta deben ser exactamente "
-        "iguales a las coordenadas del primer punto de la superficie de falla, por favor revise las coordenadas de la "
+        "[mensaje] OJO PELAO con este mensaje: | Las coordenadas del segundo pto de la grieta "
+        "deben ser exactamente "
+        "iguales a las coordenadas del primer punto de la superficie de falla, por favor revise "
+        "las coordenadas de la "
         "superficie de falla y las coordenadas de la grieta."}},
-      {"roca", [](Proyecto& p) { p.TipoDeMaterial = "R"; }, "N",
+      {"roca",
+       [](Proyecto& p) { p.TipoDeMaterial = "R"; },
+       "N",
        {desembalse, "[mensaje] No es SUELO: | Ud. ha considerado el material como una 'ROCA'"}},
-      {"instantáneos", [](Proyecto& p) { p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S"; }, "N",
+      {"instantáneos",
+       [](Proyecto& p) { p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S"; },
+       "N",
        {desembalse,
-        "[mensaje] No es el camino: | Este problema corresponde al método de parámetros instantáneos por favor "
+        "[mensaje] No es el camino: | Este problema corresponde al método de parámetros "
+        "instantáneos por favor "
         "seleccione:Suelos o Rocas (parámetros instantáneos c,fi). "}},
   };
   for (const auto& c : casos) {
@@ -319,7 +349,6 @@ TEST(JanbuPuertas, PalabraPorPalabra) {
     EXPECT_EQ(p.CálculoHecho, hecho) << c.nombre;
   }
 }
-
 
 // --- Published case ------------------------------------------------------------------------------
 

@@ -41,13 +41,17 @@ TEST_F(Form17Prueba, MuestraLasAlturasYPreguntaAlAbrir) {
   AbrirAbierta(ui);
   EXPECT_EQ(pantalla.título, "Opción para cambio de altura entre dovelas");
   const auto& l = pantalla.lista("ListaValoresDEht");
-  EXPECT_EQ(l.columnas, (std::vector<std::string>{"Dovela", "alfa_t (radianes)", "  ht (m)", "Nuevo ht(m)"}));
-  EXPECT_EQ(l.filas, (std::vector<std::vector<std::string>>{
-                         {"1", "0.6163", "1.00", ""}, {"2", "0.3029", "0.50", ""}, {"3", "0.0000", "0.00", ""}}));
-  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{"¿Considera que es la solución?", "¿Desea salir del cálculo?"}));
+  EXPECT_EQ(l.columnas,
+            (std::vector<std::string>{"Dovela", "alfa_t (radianes)", "  ht (m)", "Nuevo ht(m)"}));
+  EXPECT_EQ(l.filas, (std::vector<std::vector<std::string>>{{"1", "0.6163", "1.00", ""},
+                                                            {"2", "0.3029", "0.50", ""},
+                                                            {"3", "0.0000", "0.00", ""}}));
+  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{"¿Considera que es la solución?",
+                                                   "¿Desea salir del cálculo?"}));
   EXPECT_FALSE(p.AceptaSolución);
   EXPECT_FALSE(p.SaleDelCálculo);
-  for (const char* b : {"Modificar", "BotónAceptar", "BotónSalir"}) EXPECT_NO_THROW(pantalla.botón(b)) << b;
+  for (const char* b : {"Modificar", "BotónAceptar", "BotónSalir"})
+    EXPECT_NO_THROW(pantalla.botón(b)) << b;
   EXPECT_NO_THROW(pantalla.campo("TextoNuevoValorDeht"));
 }
 
@@ -75,8 +79,9 @@ TEST_F(Form17Prueba, ModificarYAceptar) {
   ui.Olvidar();
   pantalla.Pulsar("Modificar", ui);  // no row selected
   Poner(ui, 1, "abc");
-  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{"Seleccione en la lista la dovela cuyo ht desea cambiar.",
-                                                   "Debe introducir un número para el nuevo valor de ht."}));
+  EXPECT_EQ(ui.Textos(),
+            (std::vector<std::string>{"Seleccione en la lista la dovela cuyo ht desea cambiar.",
+                                      "Debe introducir un número para el nuevo valor de ht."}));
   ui.Olvidar();
 
   Poner(ui, 1, "1.234");
@@ -84,15 +89,17 @@ TEST_F(Form17Prueba, ModificarYAceptar) {
   pantalla.Pulsar("BotónAceptar", ui);
   ASSERT_EQ(ui.Transcripción().size(), 1u);
   EXPECT_EQ(ui.Transcripción()[0].título, "Valores de ht");
-  EXPECT_EQ(ui.Transcripción()[0].texto,
-            "Faltan datos. Debe introducir los valores deseados para todos y cada una de las dovelas");
+  EXPECT_EQ(
+      ui.Transcripción()[0].texto,
+      "Faltan datos. Debe introducir los valores deseados para todos y cada una de las dovelas");
   EXPECT_FALSE(pantalla.cerrada);
 
   ui.Olvidar();
   Poner(ui, 2, "0");
   Poner(ui, 3, "0");
   pantalla.Pulsar("BotónAceptar", ui);
-  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{"Parece que Ud. va  a trabajar con ht que no pueden ser correctos"}));
+  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{
+                             "Parece que Ud. va  a trabajar con ht que no pueden ser correctos"}));
   EXPECT_FALSE(pantalla.cerrada);
   EXPECT_EQ(p.TablaDovelas.AlturaEmpuje[1], 1);  // nothing stored yet
 
