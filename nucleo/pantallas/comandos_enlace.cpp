@@ -1,10 +1,11 @@
 // Binds each menu entry to the command that the core runs for it. One line a command.
+#include "proyecto/comandos.h"
+
 #include "equilibrio/bishop.h"
+#include "equilibrio/fellenius.h"
 #include "equilibrio/janbu.h"
 #include "pantallas/comandos_archivo.h"
 #include "pantallas/comandos_coordenadas.h"
-#include "proyecto/comandos.h"
-
 #include "pantallas/constantes.h"
 #include "pantallas/constantes_elementos.h"
 #include "pantallas/form15.h"
@@ -12,7 +13,6 @@
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
-#include "equilibrio/fellenius.h"
 
 namespace lomaterra {
 
