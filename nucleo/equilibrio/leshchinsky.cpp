@@ -370,8 +370,18 @@ struct Corrida {
     LiberarTablas();
   }
 
+  // Reads row k of the history and the stress table: the iteration goes on from what the
+  // tables hold, as every step is written there first.
+  void LeerFila(long k) {
+    fila.µ1 = p.HistoriaIteraciones.Multiplicador1[k];
+    fila.µ2 = p.HistoriaIteraciones.Multiplicador2[k];
+    fila.F = p.HistoriaIteraciones.FactorDeSeguridad[k];
+    for (long j = 1; j <= dv.n + 1; ++j) fila.σ[Z(j)] = p.EsfuerzoIteración(j, k);
+  }
+
   // One Newton step from the current row to the next. False: singular matrix, message shown.
   bool PasoNewton() {
+    LeerFila(p.NúmeroIteraciones);
     fila.σ[1] = σCresta;  // the crest stress is the boundary value and never changes
     MatrizDensa J;
     std::vector<double> R;

@@ -39,8 +39,9 @@ struct TaludCircular {
     return {raíz(xc + R - 1e-9, xc), raíz(xc - R + 1e-9, xc)};
   }
 
-  // Fills the project: slices, strata columns and the flags of the six stages.
-  void Llenar(Proyecto& p, int n) const {
+  // Fills the project: slices, strata columns and the flags of the six stages. With `desigualdad`
+  // above 0 (below 1) the widths grow from the crest to the toe instead of being equal.
+  void Llenar(Proyecto& p, int n, double desigualdad = 0) const {
     const auto [xa, xb] = Cruces();
     auto& d = p.TablaDovelas;
     p.NúmeroBordes = static_cast<Entero>(n + 1);
@@ -52,7 +53,8 @@ struct TaludCircular {
     d.TipoEstratoBase.Redimensionar(n);
     const double paso = (xa - xb) / n;
     for (int e = 1; e <= n + 1; ++e) {
-      const double x = e == n + 1 ? xb : xa - (e - 1) * paso;
+      const double u = static_cast<double>(e - 1) / n;
+      const double x = e == n + 1 ? xb : xa - (u - desigualdad * u * (1 - u)) * n * paso;
       d.BordeX[e] = x;
       d.BordeYFalla[e] = e == 1 || e == n + 1 ? YSuelo(x) : YCírculo(x);
       d.BordeYTalud[e] = YSuelo(x);
