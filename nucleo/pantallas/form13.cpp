@@ -68,6 +68,7 @@ Form13::Form13(Proyecto& p) : p_(p) {
       {"BotónAceptar", "&Aceptar", [this](Interfaz& ui) { Aceptar(ui); }},
       {"BotónSalir", "&Salir", [this](Interfaz& ui) { Salir(ui); }},
   };
+  ElegirLey();
 }
 
 std::string Form13::TextoDeApertura() const {
@@ -80,10 +81,14 @@ std::string Form13::TextoDeApertura() const {
   return "";
 }
 
-void Form13::Activar(Interfaz&) {
+void Form13::ElegirLey() {
   ley_ = p_.TipoDeMaterial == "R" ? (leySigma3 ? Ley::RocaSigma3 : Ley::Roca) : Ley::Suelo;
   título = ley_ == Ley::RocaSigma3 ? "Resultados de los sigma3 en el proceso iterativo"
                                    : "Resultados de los sigma normales en el proceso iterativo";
+}
+
+void Form13::Activar(Interfaz&) {
+  ElegirLey();
   const std::string encabezado =
       ley_ == Ley::RocaSigma3 ? "Chequeo de sigma '3'" : "Chequeo de los esfuerzo normal (total) a la SPF.";
   nota = encabezado + "\n" + TextoDeApertura();

@@ -29,6 +29,8 @@ class Form13 : public Pantalla {
   Ley ley() const { return ley_; }
 
  private:
+  // The law, and with it the title, from the material of the project.
+  void ElegirLey();
   // Text under the title: with the failed slice given, or for the whole table.
   std::string TextoDeApertura() const;
   // The current value of row i as it stands in the list (exact when not retyped).
