@@ -2,17 +2,29 @@
 #include "proyecto/comandos.h"
 
 #include "equilibrio/leshchinsky.h"
+#include "pantallas/constantes.h"
+#include "pantallas/constantes_elementos.h"
+#include "pantallas/form15.h"
 #include "pantallas/form18.h"
 #include "pantallas/form34.h"
+#include "pantallas/form5.h"
+#include "pantallas/form6.h"
+#include "pantallas/form7.h"
+#include "pantallas/form8.h"
 
 namespace lomaterra {
 
 void EnlazarComandos(std::map<std::string, Acción>& a) {
-  (void)a;
+  a["MenúInformación"] = MenúInformación;
+  a["CaracterísticasGeomecánicasSuelos"] = CaracterísticasGeomecánicasSuelos;
+  a["MénuGeometríaEntrePuntosSuperficieFalla"] = MénuGeometríaEntrePuntosSuperficieFalla;
+  a["CargasUniformes"] = CargasUniformes;
+  a["CargasPuntuales"] = CargasPuntuales;
+  a["MenúArchivoConstantes"] = MenúArchivoConstantes;
+  a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
   a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
   a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
-  // a["MétodoFellenius"] = MétodoFellenius;
 }
 
 }  // namespace lomaterra

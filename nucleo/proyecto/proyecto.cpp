@@ -1,5 +1,7 @@
 #include "proyecto/proyecto.h"
 
+#include <vector>
+
 namespace lomaterra {
 
 void TablaEstrato::BorrarTodo() {
@@ -107,12 +109,15 @@ void ReiniciarProyecto(Proyecto& p) {
 void GuardarPanelCoordenadas(Proyecto& p, int tipo, int estrato) {
   const auto& lista = p.Ventana.ListaCoordenadas;
   const long n = static_cast<long>(lista.size());
-  // Two equal abscissas side by side: the later one is stored 0.01 lower.
-  auto x = [&](long i) {
+  // Two equal abscissas side by side: the later one is stored 0.01 below the one before it, so a
+  // run of equal abscissas becomes a run of very steep segments and never two equal neighbours.
+  std::vector<double> guardadas(static_cast<std::size_t>(n));
+  for (long i = 1; i <= n; ++i) {
     const double xi = lista[static_cast<std::size_t>(i - 1)].X;
-    if (i > 1 && xi == lista[static_cast<std::size_t>(i - 2)].X) return xi - 0.01;
-    return xi;
-  };
+    guardadas[static_cast<std::size_t>(i - 1)] =
+        (i > 1 && xi == lista[static_cast<std::size_t>(i - 2)].X) ? guardadas[static_cast<std::size_t>(i - 2)] - 0.01 : xi;
+  }
+  auto x = [&](long i) { return guardadas[static_cast<std::size_t>(i - 1)]; };
   auto y = [&](long i) { return lista[static_cast<std::size_t>(i - 1)].Y; };
   TablaXY* t = nullptr;
   switch (tipo) {
