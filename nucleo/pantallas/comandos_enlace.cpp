@@ -11,6 +11,7 @@
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
+#include "equilibrio/fellenius.h"
 
 namespace lomaterra {
 
@@ -22,6 +23,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["CargasPuntuales"] = CargasPuntuales;
   a["MenúArchivoConstantes"] = MenúArchivoConstantes;
   a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
+  a["MétodoFellenius"] = MétodoFellenius;
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
   a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
   a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
