@@ -134,3 +134,55 @@ TEST(LeshchinskyEjemplo, ConvergeAlFactorDeLosMétodosRigurosos) {
 
 }  // namespace
 }  // namespace lomaterra
+
+namespace lomaterra {
+namespace {
+
+// The stratified sample (fill over clay and sand, phreatic line, a crack with water, a strip load
+// and a line load on the crest) by method 1: at the crack foot the crest stress is taken as the
+// water pressure in the crack, 1.5 ton/m2 at 1.5 m of water, rounded to 2. The stored stresses
+// must carry the mass: vertically the weight and the loads, horizontally the crack water and the
+// lateral loads, as the three sums say once they pass.
+TEST(LeshchinskyEjemplo, EstratificadoConGrietaCargasYAguaQuedaEnEquilibrio) {
+  Proyecto p;
+  InterfazGuionada ui;
+  ASSERT_TRUE(LeerProyecto(p, pruebas::RutaEjemplo("talud_estratificado.cod"), ui));
+  auto& pi = p.ParámetrosIniciales;
+  pi.MétodoDeCálculo = 1;
+  pi.Multiplicador1 = 20;
+  pi.Multiplicador2 = 40;
+  pi.FSInicial = 1.5;
+  pi.EsfuerzoInicialCresta = 2;
+  ASSERT_EQ(EjecutarComando(ProcesoIterativoEnSuelos, p, ui), FinDeComando::Normal);
+  ASSERT_TRUE(p.CálculoHecho) << ui.Textos().back();
+  ASSERT_GT(p.GrietaTracción.EmpujeGrieta, 0);
+  ASSERT_GT(p.NúmeroCargasUniformes + p.NúmeroCargasPuntuales, 0);
+
+  const auto& d = p.TablaDovelas;
+  double vertical = 0, horizontal = 0;
+  for (int i = 1; i < p.NúmeroBordes; ++i) {
+    const double b = d.Ancho[i], σ = d.EsfuerzoNormalTotal[i], τ = d.EsfuerzoTangencial[i], s = d.PendienteBase[i];
+    const double W = (d.YTalud[i] - d.YBase[i]) * d.PesoUnitarioMedio[i] + d.AlturaAguaSobreTalud.Leer(i);
+    vertical += (σ + τ * s) * b - W * b;
+    horizontal += (τ - σ * s) * b;
+    for (int q = 1; q <= p.NúmeroCargasUniformes; ++q)
+      if (p.CargaUniforme.xo[q] <= d.XMedio[i] && d.XMedio[i] <= p.CargaUniforme.xf[q]) {
+        vertical -= p.CargaUniforme.qy[q] * b;
+        horizontal += p.CargaUniforme.qx[q] * d.PendienteTalud[i] * b;
+      }
+    for (int q = 1; q <= p.NúmeroCargasPuntuales; ++q)
+      if (d.BordeX[i + 1] <= p.CargaPuntual.Xpuntual[q] && p.CargaPuntual.Xpuntual[q] <= d.BordeX[i]) {
+        vertical -= p.CargaPuntual.Py[q];
+        horizontal -= p.CargaPuntual.Px[q];
+      }
+  }
+  horizontal -= p.GrietaTracción.EmpujeGrieta;
+  EXPECT_NEAR(vertical, 0, 0.01);
+  EXPECT_NEAR(horizontal, 0, 0.01);
+  const double fs = p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones];
+  EXPECT_GT(fs, 1.0);
+  EXPECT_LT(fs, 3.0);
+}
+
+}  // namespace
+}  // namespace lomaterra
