@@ -452,6 +452,9 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
     for (long i = 1; i <= n; ++i) d.TanFricciónBase[i] = std::tan(π * d.FricciónBase[i] / 180);
   }
 
+  // From here on the floating-point flags speak of this method alone: the net before the results
+  // are stored must not catch what an earlier command left raised.
+  LimpiarExcepcionesFlotantes();
   Corrida cr{p, ui, LeerDatosVariacionales(p), {}, par.EsfuerzoInicialCresta};
   p.HistoriaIteraciones.Redimensionar(kFilasHistoria);
   p.EsfuerzoIteración.Redimensionar(n + 1, kFilasHistoria);

@@ -310,6 +310,20 @@ TEST_F(Variacional, LaHistoriaLlenaTerminaSinResultados) {
   ExpectResultadosIntactos();
 }
 
+TEST_F(Variacional, ElEsfuerzoDeLaCrestaEsElValorDeBorde) {
+  Preparar(12, 29.7, 53.2, 1.2, -0.37);
+  InterfazEspía ui("NN");
+  std::vector<double> cresta;
+  ui.alAbrir = [&](Pantalla&) { cresta.push_back(p.EsfuerzoIteración(1, p.NúmeroIteraciones)); };
+  ProcesoIterativoEnSuelos(p, ui);
+  ASSERT_TRUE(p.CálculoHecho);
+  ASSERT_GE(cresta.size(), 2u);
+  for (double σ : cresta) EXPECT_EQ(σ, -0.37);
+  EXPECT_EQ(p.ParámetrosIniciales.EsfuerzoInicialCresta, -0.37);
+  EXPECT_EQ(p.ParámetrosIniciales.Multiplicador1, 29.7);  // the start is kept; the history moves
+  EXPECT_NE(p.HistoriaIteraciones.Multiplicador1[p.NúmeroIteraciones], 29.7);
+}
+
 // ------------------------------------------------------------------------------------------------
 // The strength check of the iteration and the correction screen
 
