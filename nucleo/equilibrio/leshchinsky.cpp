@@ -31,7 +31,9 @@ const char* const kTítuloPocasDovelas = "Dovelas insuficientes";
 
 namespace {
 
-std::size_t Z(long i) { return static_cast<std::size_t>(i); }
+std::size_t Z(long i) {
+  return static_cast<std::size_t>(i);
+}
 
 }  // namespace
 
@@ -132,7 +134,8 @@ DatosVariacionales LeerDatosVariacionales(const Proyecto& p) {
   }
   for (long i = 1; i <= n - 1; ++i)
     dv.d[Z(i)] = (dv.h[Z(i)] + dv.h[Z(i + 1)]) * dv.h[Z(i)] * dv.h[Z(i + 1)];
-  if (n >= 4) dv.w = PesosDerivadaCuatroPuntos(dv.x[Z(n - 3)], dv.x[Z(n - 2)], dv.x[Z(n - 1)], dv.x[Z(n)]);
+  if (n >= 4)
+    dv.w = PesosDerivadaCuatroPuntos(dv.x[Z(n - 3)], dv.x[Z(n - 2)], dv.x[Z(n - 1)], dv.x[Z(n)]);
   return dv;
 }
 
@@ -227,7 +230,8 @@ void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, Ma
     const double gd = Div(g, d, "la ecuación diferencial");
     J(l, 1) = Ed * dv.t[k] - ((1 + kv) * dv.ge[k] * F + dv.p[k] * dv.t[k]);
     J(l, 2) = Ed * F - kh * F * dv.ge[k];
-    J(l, 3) = -Ed * (dv.y[k] - µ2) + (dv.x[k] - µ1) * (1 + kv) * dv.ge[k] - (dv.y[k] - µ2) * kh * dv.ge[k];
+    J(l, 3) = -Ed * (dv.y[k] - µ2) + (dv.x[k] - µ1) * (1 + kv) * dv.ge[k] -
+              (dv.y[k] - µ2) * kh * dv.ge[k];
     if (l == 1) {
       J(1, 4) = -((hA * hA - hD * hD) * gd + 2 * dv.t[k]);
       J(1, 5) = hA * hA * gd;
@@ -251,7 +255,8 @@ void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, Ma
     const double g = dv.g(n, µ1, µ2, F);
     J(n, 1) = -Dn * dv.t[k] + (1 + kv) * dv.ge[k] * F + dv.t[k] * dv.p[k];
     J(n, 2) = -Dn * F + kh * F * dv.ge[k];
-    J(n, 3) = Dn * (dv.y[k] - µ2) - (dv.x[k] - µ1) * (1 + kv) * dv.ge[k] + (dv.y[k] - µ2) * kh * dv.ge[k];
+    J(n, 3) =
+        Dn * (dv.y[k] - µ2) - (dv.x[k] - µ1) * (1 + kv) * dv.ge[k] + (dv.y[k] - µ2) * kh * dv.ge[k];
     J(n, n) = g * w.w1;
     J(n, n + 1) = g * w.w2;
     J(n, n + 2) = g * w.w3;
@@ -281,7 +286,8 @@ void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, Ma
     }
     J(n + 1, i + 3) = (dv.t[k] - dv.s[k] * F) * b;
     J(n + 2, i + 3) = (dv.t[k] * dv.s[k] + F) * b;
-    J(n + 3, i + 3) = ((dv.y[k] - dv.x[k] * dv.s[k]) * dv.t[k] - (dv.s[k] * dv.y[k] + dv.x[k]) * F) * b;
+    J(n + 3, i + 3) =
+        ((dv.y[k] - dv.x[k] * dv.s[k]) * dv.t[k] - (dv.s[k] * dv.y[k] + dv.x[k]) * F) * b;
   }
   J(n + 1, 3) = jH - dv.EmpujeGrieta;
   J(n + 2, 3) = jV;
@@ -318,7 +324,8 @@ struct Corrida {
   bool ChequeoResistencia(long& fallida) const {
     for (long j = 2; j <= dv.n + 1; ++j) {
       const std::size_t i = Z(j - 1);
-      if (Div(-dv.c[i], dv.t[i], "el chequeo de resistencia (fricción nula en la base)") > fila.σ[Z(j)] - dv.u[i]) {
+      if (Div(-dv.c[i], dv.t[i], "el chequeo de resistencia (fricción nula en la base)") >
+          fila.σ[Z(j)] - dv.u[i]) {
         fallida = j - 1;
         return false;
       }
@@ -347,7 +354,8 @@ struct Corrida {
       const std::size_t k = Z(i);
       const double σ = fila.σ[k + 1];
       total[k] = Finito(σ, "los esfuerzos normales");
-      tangencial[k] = Finito(Div(dv.T(i, σ), fila.F, "los esfuerzos tangenciales"), "los esfuerzos tangenciales");
+      tangencial[k] = Finito(Div(dv.T(i, σ), fila.F, "los esfuerzos tangenciales"),
+                             "los esfuerzos tangenciales");
       efectivo[k] = Finito(σ - dv.u[k], "los esfuerzos efectivos");
       sT += tangencial[k];
       sN += total[k];
@@ -425,7 +433,8 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
           "No es el camino:");
       return;
     }
-    if (!ui.Pregunta("Ud. está calculando por el método de parámetros instantáneos. ¿Desea continuar el cálculo?"))
+    if (!ui.Pregunta("Ud. está calculando por el método de parámetros instantáneos. ¿Desea "
+                     "continuar el cálculo?"))
       return;
   }
 
@@ -434,7 +443,8 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
   std::vector<double> corregidos;
   if (p.SigmaCorregidaDisponible) {
     const long k = p.NúmeroIteraciones;
-    for (long j = 0; j <= p.EsfuerzoIteración.Filas(); ++j) corregidos.push_back(p.EsfuerzoIteración.Leer(j, k));
+    for (long j = 0; j <= p.EsfuerzoIteración.Filas(); ++j)
+      corregidos.push_back(p.EsfuerzoIteración.Leer(j, k));
   }
 
   // Preparation
@@ -479,7 +489,8 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
       return;
     }
     const std::vector<double> σ = Multiplicar(A, r);
-    for (long j = 2; j <= n + 1; ++j) cr.fila.σ[Z(j)] = Finito(σ[Z(j - 1)], "el primer campo de esfuerzos");
+    for (long j = 2; j <= n + 1; ++j)
+      cr.fila.σ[Z(j)] = Finito(σ[Z(j - 1)], "el primer campo de esfuerzos");
     if (p.SigmaCorregidaDisponible && static_cast<long>(corregidos.size()) == n + 2)
       for (long j = 2; j <= n + 1; ++j) cr.fila.σ[Z(j)] = corregidos[Z(j)];
     p.SigmaCorregidaDisponible = false;
@@ -488,8 +499,10 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
 
   long fallida = 0;
   if (!cr.ChequeoResistencia(fallida)) {
-    ui.Mensaje("No chequea la resistencia de Morh-Coulomb. Varie los valores de xc, yc, FS o del sigma inicial",
-               "Chequeo de Resistencia");
+    ui.Mensaje(
+        "No chequea la resistencia de Morh-Coulomb. Varie los valores de xc, yc, FS o del sigma "
+        "inicial",
+        "Chequeo de Resistencia");
     return;
   }
 
@@ -507,7 +520,9 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
     // Strength check of the new row
     for (long j = 2; j <= n + 1; ++j) {
       const std::size_t i = Z(j - 1);
-      p.LímiteEsfuerzo[j] = Div(-cr.dv.c[i], cr.dv.t[i], "el límite de esfuerzo (fricción nula en la base)") + cr.dv.u[i];
+      p.LímiteEsfuerzo[j] =
+          Div(-cr.dv.c[i], cr.dv.t[i], "el límite de esfuerzo (fricción nula en la base)") +
+          cr.dv.u[i];
     }
     if (!cr.ChequeoResistencia(fallida)) {
       ui.Mensaje(
@@ -533,7 +548,8 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
       cr.LiberarTablas();
       return;
     }
-    if (!(std::fabs(s.horizontal) > 0.001 || std::fabs(s.vertical) > 0.001 || std::fabs(s.momento) > 0.009)) {
+    if (!(std::fabs(s.horizontal) > 0.001 || std::fabs(s.vertical) > 0.001 ||
+          std::fabs(s.momento) > 0.009)) {
       cr.GuardarResultados();
       ui.Mensaje(kTextoFinLeshchinsky);
       return;

@@ -30,7 +30,8 @@ PesosCuatroPuntos PesosDerivadaCuatroPuntos(double X1, double X2, double X3, dou
 // hAntes (towards greater x, where the slice before lies) and hDespués (towards smaller x):
 // E / d with E = (hA² − hD²)·σm + hD²·σa − hA²·σd and d = (hA + hD)·hA·hD. It is the derivative
 // with respect to x, exact for a quadratic.
-double DerivadaTresPuntos(double hAntes, double hDespués, double σAntes, double σMedio, double σDespués);
+double DerivadaTresPuntos(double hAntes, double hDespués, double σAntes, double σMedio,
+                          double σDespués);
 
 // A uniform load or a point load as it acts on one slice.
 struct CargaEnDovela {

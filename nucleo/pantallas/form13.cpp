@@ -9,25 +9,30 @@ namespace lomaterra {
 
 namespace {
 
-std::size_t Z(long i) { return static_cast<std::size_t>(i); }
+std::size_t Z(long i) {
+  return static_cast<std::size_t>(i);
+}
 
 const char* const kCompararSuelo =
     "Compare la columna '3' con la '4' para observar en cuales dovelas no le chequea el valor del "
     "esfuerzo normal total, el cual es determinante en la resistencia al esfuerzo de tensión del "
     "suelo. Ud. puede modificar los valores si lo desea tomando en consideración que cada uno debe "
-    "ser mayor que el valor presentado en la cuarta columna, de lo contrario cancele y modifique los "
+    "ser mayor que el valor presentado en la cuarta columna, de lo contrario cancele y modifique "
+    "los "
     "multiplicadores de Lagrange y el factor de seguridad en la opción Parámetros Iniciales.";
 const char* const kCompararRoca =
     "Compare la columna '3' con la '4' para observar en cuales dovelas no le chequea el valor del "
     "esfuerzo normal total, el cual es determinante en la resistencia al esfuerzo de tensión de la "
     "roca. Ud. puede modificar los valores si lo desea tomando en consideración que cada uno debe "
-    "ser mayor que el valor presentado en la cuarta columna, de lo contrario cancele y modifique los "
+    "ser mayor que el valor presentado en la cuarta columna, de lo contrario cancele y modifique "
+    "los "
     "multiplicadores de Lagrange y el factor de seguridad en la opción Parámetros Iniciales.";
 const char* const kCompararSigma3 =
     "Compare la columna '3' con la '4' para observar en cuales dovelas no le chequea el valor de "
     "esfuerzo principal menor sigma '3', el cual es determinante en la resistencia al corte de la "
     "roca. Ud. puede modificar los valores si lo desea tomando en consideración que cada uno debe "
-    "ser mayor que el valor presentado en la cuarta columna, de lo contrario cancele y modifique los "
+    "ser mayor que el valor presentado en la cuarta columna, de lo contrario cancele y modifique "
+    "los "
     "multiplicadores de Lagrange y el factor de seguridad en la opción Parámetros Iniciales.";
 const char* const kFallidaSuelo =
     "Observe en la parte inferior en cuál dovela no le chequea el valor del esfuerzo normal total, "
@@ -60,7 +65,8 @@ Form13::Form13(Proyecto& p) : p_(p) {
       texto("TextoSigma3Actual") = l.filas[Z(l.seleccionada - 1)][2];
   };
   campos = {
-      {"TextoSigma3Actual", "Valor actual:", "", "Nuevo valor para la dovela seleccionada (ton/m2)."},
+      {"TextoSigma3Actual", "Valor actual:", "",
+       "Nuevo valor para la dovela seleccionada (ton/m2)."},
       {"TextoDovelaFallida", "Dovela que no chequea:", "", "", true},
   };
   botones = {
@@ -74,9 +80,12 @@ Form13::Form13(Proyecto& p) : p_(p) {
 std::string Form13::TextoDeApertura() const {
   const bool fallida = p_.DovelaFallida > 0;
   switch (ley_) {
-    case Ley::Suelo: return fallida ? kFallidaSuelo : kCompararSuelo;
-    case Ley::Roca: return fallida ? kFallidaRoca : kCompararRoca;
-    case Ley::RocaSigma3: return fallida ? kFallidaSigma3 : kCompararSigma3;
+    case Ley::Suelo:
+      return fallida ? kFallidaSuelo : kCompararSuelo;
+    case Ley::Roca:
+      return fallida ? kFallidaRoca : kCompararRoca;
+    case Ley::RocaSigma3:
+      return fallida ? kFallidaSigma3 : kCompararSigma3;
   }
   return "";
 }
@@ -89,8 +98,9 @@ void Form13::ElegirLey() {
 
 void Form13::Activar(Interfaz&) {
   ElegirLey();
-  const std::string encabezado =
-      ley_ == Ley::RocaSigma3 ? "Chequeo de sigma '3'" : "Chequeo de los esfuerzo normal (total) a la SPF.";
+  const std::string encabezado = ley_ == Ley::RocaSigma3
+                                     ? "Chequeo de sigma '3'"
+                                     : "Chequeo de los esfuerzo normal (total) a la SPF.";
   nota = encabezado + "\n" + TextoDeApertura();
 
   const long n = p_.NúmeroBordes - 1;
@@ -107,11 +117,13 @@ void Form13::Activar(Interfaz&) {
     // In soil the effective stress may not fall below −c/tanφ: on the total stresses of the list
     // the limit is −c/tanφ plus the pore pressure. A friction of 0 ends the command here.
     if (ley_ == Ley::Suelo)
-      límites_[Z(i)] = Div(-d.CohesiónBase[i], d.TanFricciónBase[i], "el límite del esfuerzo normal") + d.PresiónPoros.Leer(i);
+      límites_[Z(i)] =
+          Div(-d.CohesiónBase[i], d.TanFricciónBase[i], "el límite del esfuerzo normal") +
+          d.PresiónPoros.Leer(i);
     else
       límites_[Z(i)] = p_.LímiteEsfuerzo.Leer(i + 1);
-    l.filas.push_back({Formato(i, "#"), Formato(anterior, "#0.00"), Formato(valores_[Z(i)], "#0.00"),
-                       Formato(límites_[Z(i)], "#0.00")});
+    l.filas.push_back({Formato(i, "#"), Formato(anterior, "#0.00"),
+                       Formato(valores_[Z(i)], "#0.00"), Formato(límites_[Z(i)], "#0.00")});
   }
   texto("TextoSigma3Actual").clear();
   texto("TextoDovelaFallida") = p_.DovelaFallida > 0 ? Formato(p_.DovelaFallida, "#") : "";
@@ -144,7 +156,8 @@ bool Form13::ValorDeFila(long i, double& valor) const {
 bool Form13::Cumple(long i, double valor) const {
   if (ley_ == Ley::Suelo) {
     const auto& d = p_.TablaDovelas;
-    const double mínimo = Div(-d.CohesiónBase[i], d.TanFricciónBase[i], "el límite del esfuerzo normal");
+    const double mínimo =
+        Div(-d.CohesiónBase[i], d.TanFricciónBase[i], "el límite del esfuerzo normal");
     return !(mínimo > valor - d.PresiónPoros.Leer(i));
   }
   return !(límites_[Z(i)] > valor);
@@ -157,8 +170,9 @@ void Form13::Aceptar(Interfaz& ui) {
   for (long i = 1; i <= n; ++i) {
     const auto& f = filas[Z(i - 1)];
     if (Recortar(f[2]).empty() || Recortar(f[3]).empty() || !ValorDeFila(i, v[Z(i)])) {
-      ui.Mensaje("Faltan datos. Debe introducir los valores deseados para todos y cada una de las dovelas",
-                 ley_ == Ley::Suelo ? "Valores de esfuerzos normales" : "Valores de sigma3");
+      ui.Mensaje(
+          "Faltan datos. Debe introducir los valores deseados para todos y cada una de las dovelas",
+          ley_ == Ley::Suelo ? "Valores de esfuerzos normales" : "Valores de sigma3");
       return;
     }
   }

@@ -10,7 +10,9 @@
 namespace lomaterra {
 
 namespace {
-std::size_t Z(long i) { return static_cast<std::size_t>(i); }
+std::size_t Z(long i) {
+  return static_cast<std::size_t>(i);
+}
 const char* const kLista = "ListaParámetrosDeResistencia";
 }  // namespace
 
@@ -27,9 +29,12 @@ Form18::Form18(Proyecto& p) : p_(p) {
     texto("TextoCambioPresiónPoros") = f[3];
   };
   campos = {
-      {"TextoCambioCohesión", "Cohesión (ton/m2):", "", "Nueva cohesión de la dovela seleccionada."},
-      {"TextoCambioFricción", "Fricción (grados):", "", "Nuevo ángulo de fricción de la dovela seleccionada."},
-      {"TextoCambioPresiónPoros", "Presión de poros (ton/m2):", "", "Nueva presión de poros en la base de la dovela seleccionada."},
+      {"TextoCambioCohesión", "Cohesión (ton/m2):", "",
+       "Nueva cohesión de la dovela seleccionada."},
+      {"TextoCambioFricción", "Fricción (grados):", "",
+       "Nuevo ángulo de fricción de la dovela seleccionada."},
+      {"TextoCambioPresiónPoros", "Presión de poros (ton/m2):", "",
+       "Nueva presión de poros en la base de la dovela seleccionada."},
   };
   botones = {
       {"Modificar", "&Modificar", [this](Interfaz& ui) { Modificar(ui); }},
@@ -52,8 +57,8 @@ void Form18::Llenar() {
     cohesión_[Z(i)] = d.CohesiónBase.Leer(i);
     fricción_[Z(i)] = d.FricciónBase.Leer(i);
     presión_[Z(i)] = d.PresiónPoros.Leer(i);
-    l.filas.push_back({Formato(i, "#"), Formato(cohesión_[Z(i)], "#0.00"), Formato(fricción_[Z(i)], "#0.00"),
-                       Formato(presión_[Z(i)], "#0.00")});
+    l.filas.push_back({Formato(i, "#"), Formato(cohesión_[Z(i)], "#0.00"),
+                       Formato(fricción_[Z(i)], "#0.00"), Formato(presión_[Z(i)], "#0.00")});
   }
   for (auto& c : campos) c.valor.clear();
 }
@@ -69,7 +74,8 @@ void Form18::Activar(Interfaz& ui) {
   if (p_.NúmeroBordes < 2) {
     ui.Mensaje(
         "Todavía no hay dovelas. Ordene al programa hacer la estimación del factor de seguridad. "
-        "Luego puede entrar a esta sesión y modificar los parámetros de resistencia y las presiones "
+        "Luego puede entrar a esta sesión y modificar los parámetros de resistencia y las "
+        "presiones "
         "de poros.");
     cerrada = true;
     return;
@@ -107,7 +113,8 @@ void Form18::Modificar(Interfaz& ui) {
 }
 
 void Form18::Aceptar(Interfaz& ui) {
-  if (!ui.Pregunta("Si Ud. modificó algun valor de la tabla eso afectará el cálculo oroginal. ¿Acepta los cambios?"))
+  if (!ui.Pregunta("Si Ud. modificó algun valor de la tabla eso afectará el cálculo oroginal. "
+                   "¿Acepta los cambios?"))
     return;
   auto& d = p_.TablaDovelas;
   const long n = static_cast<long>(cohesión_.size()) - 1;
@@ -127,8 +134,8 @@ void Form18::Aceptar(Interfaz& ui) {
 }
 
 void Form18::Cancelar(Interfaz& ui) {
-  if (!cambiosAceptados &&
-      !ui.Pregunta("No desea cambiar algunos valores de los parámetros de resistencia en las dovelas o presión de poros?"))
+  if (!cambiosAceptados && !ui.Pregunta("No desea cambiar algunos valores de los parámetros de "
+                                        "resistencia en las dovelas o presión de poros?"))
     return;
   cerrada = true;
 }

@@ -7,7 +7,9 @@
 namespace lomaterra {
 
 namespace {
-std::size_t Z(long i) { return static_cast<std::size_t>(i); }
+std::size_t Z(long i) {
+  return static_cast<std::size_t>(i);
+}
 const char* const kLista = "ListaDePresiónDePoros";
 }  // namespace
 
@@ -76,7 +78,8 @@ void Form34::Aceptar(Interfaz&) {
 
 void Form34::Cancelar(Interfaz& ui) {
   if (ui.Pregunta(
-          "Si hizo algún cambio en las presiones de poros de los elementos, debe presionar el botón "
+          "Si hizo algún cambio en las presiones de poros de los elementos, debe presionar el "
+          "botón "
           "Aceptar para tomarlos en cuenta en los análisis. ¿No desea registrar ningún cambio?"))
     cerrada = true;
 }

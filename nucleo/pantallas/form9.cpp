@@ -36,9 +36,11 @@ void Form9::Activar(Interfaz& ui) {
   texto("TextoDeLaSumaDeMomentos") = Formato(p_.SumaMomentos, "#0.00 ton.m");
   // The step in one line on the status bar too, so that the numbers stay in sight behind the
   // questions whatever the front end.
-  ui.Estado("Iteración " + texto("TextoNúmeroIteraciones") + ": FS = " + texto("TextoDelFactorDeSeguridad") +
-            "; fuerzas horizontales " + texto("TextoDeLaSumaDeFuerzasHorizontales") + ", verticales " +
-            texto("TextoDeLaSumaDeFuerzasVerticales") + "; momentos " + texto("TextoDeLaSumaDeMomentos"));
+  ui.Estado("Iteración " + texto("TextoNúmeroIteraciones") +
+            ": FS = " + texto("TextoDelFactorDeSeguridad") + "; fuerzas horizontales " +
+            texto("TextoDeLaSumaDeFuerzasHorizontales") + ", verticales " +
+            texto("TextoDeLaSumaDeFuerzasVerticales") + "; momentos " +
+            texto("TextoDeLaSumaDeMomentos"));
   p_.SoluciónAceptada = false;
   p_.SalirDelCálculo = false;
   if (ui.Pregunta(kPreguntaSolución, título))

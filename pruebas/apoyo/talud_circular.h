@@ -24,7 +24,9 @@ struct TaludCircular {
     }
     return x > suelo.front().first ? suelo.front().second : suelo.back().second;
   }
-  double YCírculo(double x) const { return yc - std::sqrt(std::max(0.0, R * R - (x - xc) * (x - xc))); }
+  double YCírculo(double x) const {
+    return yc - std::sqrt(std::max(0.0, R * R - (x - xc) * (x - xc)));
+  }
 
   // Crossings of the lower arc with the ground by bisection: the crest side and the toe side.
   std::pair<double, double> Cruces() const {
@@ -32,7 +34,10 @@ struct TaludCircular {
       for (int k = 0; k < 200; ++k) {
         const double m = (a + b) / 2;
         const double fa = YSuelo(a) - YCírculo(a), fm = YSuelo(m) - YCírculo(m);
-        if ((fa > 0) == (fm > 0)) a = m; else b = m;
+        if ((fa > 0) == (fm > 0))
+          a = m;
+        else
+          b = m;
       }
       return (a + b) / 2;
     };
@@ -45,10 +50,12 @@ struct TaludCircular {
     const auto [xa, xb] = Cruces();
     auto& d = p.TablaDovelas;
     p.NúmeroBordes = static_cast<Entero>(n + 1);
-    for (auto* col : {&d.BordeX, &d.BordeYFalla, &d.BordeYTalud, &d.BordeYFreático}) col->Redimensionar(n + 1);
-    for (auto* col : {&d.XMedio, &d.YBase, &d.YTalud, &d.YFreático, &d.Ancho, &d.PendienteTalud,
-                      &d.PendienteBase, &d.CohesiónBase, &d.FricciónBase, &d.TanFricciónBase,
-                      &d.PesoUnitarioMedio, &d.PresiónPoros, &d.PresiónPorosMedia, &d.AlturaAguaSobreTalud})
+    for (auto* col : {&d.BordeX, &d.BordeYFalla, &d.BordeYTalud, &d.BordeYFreático})
+      col->Redimensionar(n + 1);
+    for (auto* col :
+         {&d.XMedio, &d.YBase, &d.YTalud, &d.YFreático, &d.Ancho, &d.PendienteTalud,
+          &d.PendienteBase, &d.CohesiónBase, &d.FricciónBase, &d.TanFricciónBase,
+          &d.PesoUnitarioMedio, &d.PresiónPoros, &d.PresiónPorosMedia, &d.AlturaAguaSobreTalud})
       col->Redimensionar(n);
     d.TipoEstratoBase.Redimensionar(n);
     const double paso = (xa - xb) / n;
@@ -94,8 +101,8 @@ inline TaludCircular AcadsEx1a() {
 }
 
 // A project ready for method 1 in soil on the given slope: selectors, parameters and slices.
-inline void ProyectoVariacional(Proyecto& p, const TaludCircular& t, int n, double µ1, double µ2, double fs,
-                                double σcresta) {
+inline void ProyectoVariacional(Proyecto& p, const TaludCircular& t, int n, double µ1, double µ2,
+                                double fs, double σcresta) {
   p.TipoDeAnálisis = "T";
   p.TipoDeMaterial = "S";
   p.ParámetrosInicialesDados = true;

@@ -35,9 +35,11 @@ Proyecto LeshchinskyHomogéneo() {
   p.InformaciónDada = true;
   p.Ventana.TextoProyecto =
       "Problema de referencia EX1(a) de ACADS: talud homogéneo de 10 m de altura, pendiente 2H:1V, "
-      "c' = 3 kPa, fi' = 19.6 grados, peso unitario 20 kN/m3, seco; círculo crítico de centro (29.7, 53.2) y "
+      "c' = 3 kPa, fi' = 19.6 grados, peso unitario 20 kN/m3, seco; círculo crítico de centro "
+      "(29.7, 53.2) y "
       "radio 28.2 m. Método de Leshchinsky y Huang.";
-  p.InformaciónProyecto = {"K0+000", "K0+000", "15/01/2026", "Ing. Responsable", "Lomaterra, proyecto de ejemplo"};
+  p.InformaciónProyecto = {"K0+000", "K0+000", "15/01/2026", "Ing. Responsable",
+                           "Lomaterra, proyecto de ejemplo"};
   auto puntos = [](TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> l) {
     n = static_cast<Entero>(l.size());
     t.Redimensionar(n);
@@ -120,7 +122,8 @@ TEST(LeshchinskyEjemplo, ConvergeAlFactorDeLosMétodosRigurosos) {
   ASSERT_EQ(EjecutarComando(ProcesoIterativoEnSuelos, p, ui), FinDeComando::Normal);
   ASSERT_FALSE(ui.Textos().empty());
   EXPECT_EQ(ui.Textos().back(),
-            "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Leshchinsky and Ching-Chuan "
+            "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de "
+            "Leshchinsky and Ching-Chuan "
             "Huang para suelos.");
   EXPECT_TRUE(p.CálculoHecho);
   // The centre of the arc that the stages computed is the referee's.
@@ -161,8 +164,10 @@ TEST(LeshchinskyEjemplo, EstratificadoConGrietaCargasYAguaQuedaEnEquilibrio) {
   const auto& d = p.TablaDovelas;
   double vertical = 0, horizontal = 0;
   for (int i = 1; i < p.NúmeroBordes; ++i) {
-    const double b = d.Ancho[i], σ = d.EsfuerzoNormalTotal[i], τ = d.EsfuerzoTangencial[i], s = d.PendienteBase[i];
-    const double W = (d.YTalud[i] - d.YBase[i]) * d.PesoUnitarioMedio[i] + d.AlturaAguaSobreTalud.Leer(i);
+    const double b = d.Ancho[i], σ = d.EsfuerzoNormalTotal[i], τ = d.EsfuerzoTangencial[i],
+                 s = d.PendienteBase[i];
+    const double W =
+        (d.YTalud[i] - d.YBase[i]) * d.PesoUnitarioMedio[i] + d.AlturaAguaSobreTalud.Leer(i);
     vertical += (σ + τ * s) * b - W * b;
     horizontal += (τ - σ * s) * b;
     for (int q = 1; q <= p.NúmeroCargasUniformes; ++q)
@@ -171,7 +176,8 @@ TEST(LeshchinskyEjemplo, EstratificadoConGrietaCargasYAguaQuedaEnEquilibrio) {
         horizontal += p.CargaUniforme.qx[q] * d.PendienteTalud[i] * b;
       }
     for (int q = 1; q <= p.NúmeroCargasPuntuales; ++q)
-      if (d.BordeX[i + 1] <= p.CargaPuntual.Xpuntual[q] && p.CargaPuntual.Xpuntual[q] <= d.BordeX[i]) {
+      if (d.BordeX[i + 1] <= p.CargaPuntual.Xpuntual[q] &&
+          p.CargaPuntual.Xpuntual[q] <= d.BordeX[i]) {
         vertical -= p.CargaPuntual.Py[q];
         horizontal -= p.CargaPuntual.Px[q];
       }

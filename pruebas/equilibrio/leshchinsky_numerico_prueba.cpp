@@ -147,7 +147,9 @@ struct SecciónPrueba : ::testing::Test {
     p.ParámetrosIniciales.CoeficienteSísmicoVertical = 0.02;
   }
   // Abscissa of stress point j: the crest edge, then the slice middles.
-  double XEsfuerzo(int j) const { return j == 1 ? p.TablaDovelas.BordeX[1] : p.TablaDovelas.XMedio[j - 1]; }
+  double XEsfuerzo(int j) const {
+    return j == 1 ? p.TablaDovelas.BordeX[1] : p.TablaDovelas.XMedio[j - 1];
+  }
   // g and f of slice i written from the columns of the table.
   double g(int i, double µ1, double µ2, double F) const {
     const auto& d = p.TablaDovelas;
@@ -158,8 +160,8 @@ struct SecciónPrueba : ::testing::Test {
     const double kh = p.ParámetrosIniciales.CoeficienteSísmicoHorizontal;
     const double kv = p.ParámetrosIniciales.CoeficienteSísmicoVertical;
     const double t = d.TanFricciónBase[i], γ = d.PesoUnitarioMedio[i];
-    return ((1 + kv) * γ * F + d.PresiónPorosMedia[i] * t) * (d.XMedio[i] - µ1) + 2 * t * d.PresiónPoros[i] -
-           2 * d.CohesiónBase[i] - kh * F * γ * (d.YBase[i] - µ2);
+    return ((1 + kv) * γ * F + d.PresiónPorosMedia[i] * t) * (d.XMedio[i] - µ1) +
+           2 * t * d.PresiónPoros[i] - 2 * d.CohesiónBase[i] - kh * F * γ * (d.YBase[i] - µ2);
   }
 };
 
@@ -185,8 +187,10 @@ TEST_F(SecciónPrueba, PrimerCampoDeEsfuerzosComoUnSistemaResueltoAparte) {
   for (int l = 1; l <= n; ++l) {
     const auto& d = p.TablaDovelas;
     std::vector<int> puntos;  // stress points of the stencil
-    if (l < n) puntos = {l, l + 1, l + 2};
-    else puntos = {n - 2, n - 1, n, n + 1};
+    if (l < n)
+      puntos = {l, l + 1, l + 2};
+    else
+      puntos = {n - 2, n - 1, n, n + 1};
     Vec X;
     for (int j : puntos) X.push_back(XEsfuerzo(j));
     const Vec w = PesosDerivada(X, d.XMedio[l]);
@@ -194,14 +198,17 @@ TEST_F(SecciónPrueba, PrimerCampoDeEsfuerzosComoUnSistemaResueltoAparte) {
     r[l - 1] = f(l, µ1, µ2, F);
     for (std::size_t k = 0; k < puntos.size(); ++k) {
       const int j = puntos[k];
-      if (j == 1) r[l - 1] -= gl * w[k] * σ1;
-      else a[l - 1][j - 2] += gl * w[k];
+      if (j == 1)
+        r[l - 1] -= gl * w[k] * σ1;
+      else
+        a[l - 1][j - 2] += gl * w[k];
     }
     a[l - 1][l - 1] += 2 * d.TanFricciónBase[l];
   }
   const Vec σ = Resolver(a, r);
   EXPECT_DOUBLE_EQ(campo[0], σ1);
-  for (int j = 2; j <= n + 1; ++j) EXPECT_NEAR(campo[j - 1], σ[j - 2], 1e-9 * (1 + std::fabs(σ[j - 2]))) << "j = " << j;
+  for (int j = 2; j <= n + 1; ++j)
+    EXPECT_NEAR(campo[j - 1], σ[j - 2], 1e-9 * (1 + std::fabs(σ[j - 2]))) << "j = " << j;
 }
 
 // ------------------------------------------------------------------------------------------------
@@ -237,7 +244,8 @@ struct JacobianoPrueba : SecciónPrueba {
     fila.µ2 = 57;
     fila.F = 1.1;
     fila.σ.assign(static_cast<std::size_t>(n + 2), 0.0);
-    for (int j = 1; j <= n + 1; ++j) fila.σ[static_cast<std::size_t>(j)] = -0.2 + 0.9 * j - 0.04 * j * j;
+    for (int j = 1; j <= n + 1; ++j)
+      fila.σ[static_cast<std::size_t>(j)] = -0.2 + 0.9 * j - 0.04 * j * j;
   }
   // Unknown c of the Newton vector: µ1, µ2, F, then σ[c − 2].
   static double& Incógnita(FilaVariacional& f, int c) {
@@ -268,7 +276,9 @@ TEST_F(JacobianoPrueba, ColumnaPorColumnaContraDiferenciasDeLosResiduos) {
   SistemaNewton(dv, fila, J, R);
   const int m = n + 3;
   const double kh = dv.kh, F = fila.F;
-  auto hx = [&](int j) { return XEsfuerzo(j) - XEsfuerzo(j + 1); };  // distance of stress points j, j+1
+  auto hx = [&](int j) {
+    return XEsfuerzo(j) - XEsfuerzo(j + 1);
+  };  // distance of stress points j, j+1
   for (int l = 1; l <= m; ++l) {
     if (l == n) continue;  // the last slice has its own test below
     for (int c = 1; c <= m; ++c) {
@@ -288,7 +298,8 @@ TEST_F(JacobianoPrueba, ColumnaPorColumnaContraDiferenciasDeLosResiduos) {
         diseño = -(hA * hA - hD * hD) * (p.TablaDovelas.XMedio[l] - fila.µ1) * dt / d;
         EXPECT_GT(std::fabs(diseño), 1e-4) << "the test section must make this entry differ";
       }
-      EXPECT_NEAR(J(l, c) - fd, diseño, 1e-6 * (1 + std::fabs(J(l, c)))) << "J(" << l << ", " << c << ")";
+      EXPECT_NEAR(J(l, c) - fd, diseño, 1e-6 * (1 + std::fabs(J(l, c))))
+          << "J(" << l << ", " << c << ")";
     }
   }
 }
@@ -307,9 +318,12 @@ TEST_F(JacobianoPrueba, ÚltimaDovelaMultiplicaEnLaMatrizYSumaEnElResiduo) {
   };
   auto resto = [&](const FilaVariacional& f) {
     return (f.σ[k + 1] - dv.u[k]) * 2 * dv.t[k] + 2 * dv.c[k] -
-           ((1 + kv) * dv.ge[k] * f.F + dv.p[k] * dv.t[k]) * (dv.x[k] - f.µ1) + kh * f.F * dv.ge[k] * (dv.y[k] - f.µ2);
+           ((1 + kv) * dv.ge[k] * f.F + dv.p[k] * dv.t[k]) * (dv.x[k] - f.µ1) +
+           kh * f.F * dv.ge[k] * (dv.y[k] - f.µ2);
   };
-  auto gn = [&](const FilaVariacional& f) { return (dv.x[k] - f.µ1) * dv.t[k] + (dv.y[k] - f.µ2) * f.F; };
+  auto gn = [&](const FilaVariacional& f) {
+    return (dv.x[k] - f.µ1) * dv.t[k] + (dv.y[k] - f.µ2) * f.F;
+  };
   // The residual is the stated one: Dn and g added.
   EXPECT_NEAR(R[k], -(Dn(fila) + gn(fila) + resto(fila)), 1e-10);
   // The matrix row is the derivative of the equation with g·Dn, the product, except the seismic
@@ -317,7 +331,8 @@ TEST_F(JacobianoPrueba, ÚltimaDovelaMultiplicaEnLaMatrizYSumaEnElResiduo) {
   auto producto = [&](const FilaVariacional& f) { return gn(f) * Dn(f) + resto(f); };
   for (int c = 1; c <= n + 3; ++c) {
     const double diseño = c == 2 ? 2 * kh * fila.F * dv.ge[k] : 0.0;
-    EXPECT_NEAR(J(n, c) - Derivada(producto, c), diseño, 1e-6 * (1 + std::fabs(J(n, c)))) << "J(n, " << c << ")";
+    EXPECT_NEAR(J(n, c) - Derivada(producto, c), diseño, 1e-6 * (1 + std::fabs(J(n, c))))
+        << "J(n, " << c << ")";
   }
   // Against the residual itself the row disagrees wherever Dn or g enter: the σ columns of the
   // stencil carry g·w in the matrix and w in the residual.

@@ -27,12 +27,15 @@ std::vector<std::string> Líneas(const InterfazGuionada& ui) {
   return r;
 }
 
-const std::string kDesembalse = "[pregunta]  | Está analizando desembalse rápido en presas de tierra? -> N";
+const std::string kDesembalse =
+    "[pregunta]  | Está analizando desembalse rápido en presas de tierra? -> N";
 const std::string kPrimeraVez =
-    "[pregunta]  | ¿Es primera vez que está haciendo el cálculo o modificó las características geométricas o "
+    "[pregunta]  | ¿Es primera vez que está haciendo el cálculo o modificó las características "
+    "geométricas o "
     "geomecánicas del problema o niveles freáticos? -> N";
 const std::string kFin =
-    "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Leshchinsky and "
+    "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de "
+    "Leshchinsky and "
     "Ching-Chuan Huang para suelos.";
 
 struct Variacional : ::testing::Test {
@@ -90,21 +93,36 @@ TEST_P(PuertasVariacional, CadaPuertaTerminaConSuTexto) {
 INSTANTIATE_TEST_SUITE_P(
     Leshchinsky, PuertasVariacional,
     ::testing::Values(
-        CasoPuerta{"SinTipo", [](Proyecto& p) { p.TipoDeAnálisis.clear(); }, "",
+        CasoPuerta{"SinTipo",
+                   [](Proyecto& p) { p.TipoDeAnálisis.clear(); },
+                   "",
                    {"[mensaje]  | Seleccione en la pantalla principal la opción <T> ó <F>"}},
-        CasoPuerta{"ElementosFinitos", [](Proyecto& p) { p.TipoDeAnálisis = "F"; }, "",
+        CasoPuerta{"ElementosFinitos",
+                   [](Proyecto& p) { p.TipoDeAnálisis = "F"; },
+                   "",
                    {"[mensaje]  | Ud. está trabajando con elementos finitos"}},
-        CasoPuerta{"SinParametros", [](Proyecto& p) { p.ParámetrosInicialesDados = false; }, "",
-                   {"[mensaje] Parámetros iniciales: | Faltan los parámetros iniciales de cálculo. Vaya a la opción "
+        CasoPuerta{"SinParametros",
+                   [](Proyecto& p) { p.ParámetrosInicialesDados = false; },
+                   "",
+                   {"[mensaje] Parámetros iniciales: | Faltan los parámetros iniciales de cálculo. "
+                    "Vaya a la opción "
                     "Equilibrio límite."}},
-        CasoPuerta{"Roca", [](Proyecto& p) { p.TipoDeMaterial = "R"; }, "N",
-                   {kDesembalse, "[mensaje] No es SUELO: | Ud. ha considerado el material como una 'ROCA'"}},
-        CasoPuerta{"Bishop", [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 2; }, "N",
-                   {kDesembalse, "[mensaje] No es el METODO: | Ud. no ha seleccionado este método de cálculo"}},
-        CasoPuerta{"InstantaneosSinCalcular",
-                   [](Proyecto& p) { p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S"; }, "N",
+        CasoPuerta{"Roca",
+                   [](Proyecto& p) { p.TipoDeMaterial = "R"; },
+                   "N",
                    {kDesembalse,
-                    "[mensaje] No es el camino: | Este problema corresponde al método de parámetros instantáneos por "
+                    "[mensaje] No es SUELO: | Ud. ha considerado el material como una 'ROCA'"}},
+        CasoPuerta{"Bishop",
+                   [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 2; },
+                   "N",
+                   {kDesembalse,
+                    "[mensaje] No es el METODO: | Ud. no ha seleccionado este método de cálculo"}},
+        CasoPuerta{"InstantaneosSinCalcular",
+                   [](Proyecto& p) { p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S"; },
+                   "N",
+                   {kDesembalse,
+                    "[mensaje] No es el camino: | Este problema corresponde al método de "
+                    "parámetros instantáneos por "
                     "favor seleccione:Suelos o Rocas (parámetros instantáneos c,fi). "}},
         CasoPuerta{"InstantaneosNo",
                    [](Proyecto& p) {
@@ -113,12 +131,17 @@ INSTANTIATE_TEST_SUITE_P(
                    },
                    "NN",
                    {kDesembalse,
-                    "[pregunta]  | Ud. está calculando por el método de parámetros instantáneos. ¿Desea continuar el "
+                    "[pregunta]  | Ud. está calculando por el método de parámetros instantáneos. "
+                    "¿Desea continuar el "
                     "cálculo? -> N"}},
-        CasoPuerta{"TresDovelas", [](Proyecto& p) { pruebas::AcadsEx1a().Llenar(p, 3); }, "NN",
+        CasoPuerta{"TresDovelas",
+                   [](Proyecto& p) { pruebas::AcadsEx1a().Llenar(p, 3); },
+                   "NN",
                    {kDesembalse, kPrimeraVez,
-                    "[mensaje] Dovelas insuficientes | El método de Leshchinsky y Huang necesita al menos cuatro "
-                    "dovelas. Aumente el número de dovelas en los parámetros iniciales de cálculo y calcule de "
+                    "[mensaje] Dovelas insuficientes | El método de Leshchinsky y Huang necesita "
+                    "al menos cuatro "
+                    "dovelas. Aumente el número de dovelas en los parámetros iniciales de cálculo "
+                    "y calcule de "
                     "nuevo."}}),
     [](const ::testing::TestParamInfo<CasoPuerta>& i) { return std::string(i.param.nombre); });
 
@@ -177,7 +200,10 @@ TEST_P(Acads, ConvergeAlFactorPublicado) {
   double sT = 0, sN = 0, sE = 0;
   for (int i = 1; i <= n; ++i) {
     EXPECT_NEAR(d.EsfuerzoTangencial[i],
-                ((d.EsfuerzoNormalTotal[i] - d.PresiónPoros[i]) * d.TanFricciónBase[i] + d.CohesiónBase[i]) / FS(), 1e-12);
+                ((d.EsfuerzoNormalTotal[i] - d.PresiónPoros[i]) * d.TanFricciónBase[i] +
+                 d.CohesiónBase[i]) /
+                    FS(),
+                1e-12);
     EXPECT_DOUBLE_EQ(d.EsfuerzoNormalEfectivo[i], d.EsfuerzoNormalTotal[i] - d.PresiónPoros[i]);
     sT += d.EsfuerzoTangencial[i];
     sN += d.EsfuerzoNormalTotal[i];
@@ -190,7 +216,8 @@ TEST_P(Acads, ConvergeAlFactorPublicado) {
   double peso = 0, soporte = 0;
   for (int i = 1; i <= n; ++i) {
     peso += d.PesoUnitarioMedio[i] * (d.YTalud[i] - d.YBase[i]) * d.Ancho[i];
-    soporte += (d.EsfuerzoNormalTotal[i] + d.EsfuerzoTangencial[i] * d.PendienteBase[i]) * d.Ancho[i];
+    soporte +=
+        (d.EsfuerzoNormalTotal[i] + d.EsfuerzoTangencial[i] * d.PendienteBase[i]) * d.Ancho[i];
   }
   EXPECT_NEAR(soporte, peso, 0.01);
   // The work tables are released.
@@ -198,8 +225,9 @@ TEST_P(Acads, ConvergeAlFactorPublicado) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Leshchinsky, Acads,
-                         ::testing::Values(Arranque{29.7, 53.2, 1.0, -0.1}, Arranque{40, 45, 1.0, -0.3},
-                                           Arranque{40, 55, 1.0, -0.1}, Arranque{35, 60, 1.2, 0.0}));
+                         ::testing::Values(Arranque{29.7, 53.2, 1.0, -0.1},
+                                           Arranque{40, 45, 1.0, -0.3}, Arranque{40, 55, 1.0, -0.1},
+                                           Arranque{35, 60, 1.2, 0.0}));
 
 // ------------------------------------------------------------------------------------------------
 // The other ends of a run
@@ -208,15 +236,17 @@ TEST_F(Variacional, AceptarLaSoluciónGuardaSinMensajeFinal) {
   Preparar(12, 40, 55, 1, -0.1);
   InterfazGuionada ui("NNS");
   ProcesoIterativoEnSuelos(p, ui);
-  EXPECT_EQ(Líneas(ui), (std::vector<std::string>{
-                            kDesembalse, kPrimeraVez, "[pantalla] Resultados de las iteraciones",
-                            "[pregunta] Resultados de las iteraciones | ¿Considera que es la solución? -> S"}));
+  EXPECT_EQ(Líneas(ui),
+            (std::vector<std::string>{
+                kDesembalse, kPrimeraVez, "[pantalla] Resultados de las iteraciones",
+                "[pregunta] Resultados de las iteraciones | ¿Considera que es la solución? -> S"}));
   EXPECT_EQ(p.NúmeroIteraciones, 2);
   EXPECT_TRUE(p.CálculoHecho);
   EXPECT_TRUE(p.SoluciónAceptada);
   EXPECT_EQ(p.TablaDovelas.EsfuerzoNormalTotal.Tamaño(), n);
   EXPECT_NEAR(p.TablaDovelas.EsfuerzoTangencial[3],
-              (p.TablaDovelas.EsfuerzoNormalTotal[3] * p.TablaDovelas.TanFricciónBase[3] + p.TablaDovelas.CohesiónBase[3]) /
+              (p.TablaDovelas.EsfuerzoNormalTotal[3] * p.TablaDovelas.TanFricciónBase[3] +
+               p.TablaDovelas.CohesiónBase[3]) /
                   p.HistoriaIteraciones.FactorDeSeguridad[2],
               1e-12);
 }
@@ -258,14 +288,16 @@ TEST_F(Variacional, PrimerCampoQueRompeMohrCoulomb) {
   InterfazGuionada ui("NN");
   ProcesoIterativoEnSuelos(p, ui);
   EXPECT_EQ(Líneas(ui).back(),
-            "[mensaje] Chequeo de Resistencia | No chequea la resistencia de Morh-Coulomb. Varie los valores de xc, "
+            "[mensaje] Chequeo de Resistencia | No chequea la resistencia de Morh-Coulomb. Varie "
+            "los valores de xc, "
             "yc, FS o del sigma inicial");
   EXPECT_EQ(p.NúmeroIteraciones, 1);
   // Row 1 stays, and some base does break the law there.
   bool rompe = false;
   const auto& d = p.TablaDovelas;
   for (int i = 1; i <= n; ++i)
-    rompe = rompe || p.EsfuerzoIteración(i + 1, 1) - d.PresiónPoros[i] < -d.CohesiónBase[i] / d.TanFricciónBase[i];
+    rompe = rompe || p.EsfuerzoIteración(i + 1, 1) - d.PresiónPoros[i] <
+                         -d.CohesiónBase[i] / d.TanFricciónBase[i];
   EXPECT_TRUE(rompe);
   EXPECT_FALSE(p.CálculoHecho);
 }
@@ -329,7 +361,9 @@ TEST_F(Variacional, ElEsfuerzoDeLaCrestaEsElValorDeBorde) {
 
 TEST_F(Variacional, ChequeoEnLaIteraciónAbreForm13YLosValoresCorregidosArrancanLaCorridaSiguiente) {
   Preparar(12, 35, 40, 1, -0.8);
-  auto límite = [&](int i) { return -p.TablaDovelas.CohesiónBase[i] / p.TablaDovelas.TanFricciónBase[i]; };
+  auto límite = [&](int i) {
+    return -p.TablaDovelas.CohesiónBase[i] / p.TablaDovelas.TanFricciónBase[i];
+  };
   std::string pie;
   int fallida = 0;
   std::vector<std::string> filaFallida;
@@ -352,7 +386,8 @@ TEST_F(Variacional, ChequeoEnLaIteraciónAbreForm13YLosValoresCorregidosArrancan
   const auto líneas = Líneas(ui);
   ASSERT_GE(líneas.size(), 2u);
   EXPECT_EQ(líneas[líneas.size() - 2],
-            "[mensaje] Parámetros inciales | No chequea la ley de resistencia. Varie los multiplicadores de Lagrange, el "
+            "[mensaje] Parámetros inciales | No chequea la ley de resistencia. Varie los "
+            "multiplicadores de Lagrange, el "
             "factor de seguridad inicial o el esfuerzo incial en la cresta del talud.");
   EXPECT_EQ(líneas.back(), "[pantalla] Resultados de los sigma normales en el proceso iterativo");
   ASSERT_GE(fallida, 1);
@@ -364,7 +399,8 @@ TEST_F(Variacional, ChequeoEnLaIteraciónAbreForm13YLosValoresCorregidosArrancan
   ASSERT_TRUE(p.SigmaCorregidaDisponible);
   const long k = p.NúmeroIteraciones;
   EXPECT_EQ(k, 2);
-  EXPECT_DOUBLE_EQ(p.EsfuerzoIteración(fallida + 1, k), ANúmero(Formato(límite(fallida) + 0.5, "#0.00")));
+  EXPECT_DOUBLE_EQ(p.EsfuerzoIteración(fallida + 1, k),
+                   ANúmero(Formato(límite(fallida) + 0.5, "#0.00")));
   std::vector<double> corregidos;
   for (int j = 2; j <= n + 1; ++j) corregidos.push_back(p.EsfuerzoIteración(j, k));
 
@@ -386,7 +422,8 @@ TEST_F(Variacional, SalirDeForm13SinUsarLosValoresTerminaLaCorrida) {
   InterfazGuionada ui("NN");
   ui.GuionPantalla("Form13", [](Pantalla& s, Interfaz& u) { s.Pulsar("BotónSalir", u); });
   ProcesoIterativoEnSuelos(p, ui);
-  EXPECT_EQ(ui.Textos().back(), "Ud. desea utilizar los valores actuales de sigma para el cálculo?");
+  EXPECT_EQ(ui.Textos().back(),
+            "Ud. desea utilizar los valores actuales de sigma para el cálculo?");
   EXPECT_FALSE(p.SigmaCorregidaDisponible);
   EXPECT_FALSE(p.CálculoHecho);
 }

@@ -7,8 +7,8 @@
 
 #include "pantallas/form13.h"
 #include "pantallas/form9.h"
-#include "proyecto/compat.h"
 #include "proyecto/comandos.h"
+#include "proyecto/compat.h"
 #include "proyecto/fallos.h"
 #include "proyecto/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
@@ -68,9 +68,12 @@ TEST_P(Form9Respuestas, LasDosPreguntasFijanLasBanderas) {
 
 INSTANTIATE_TEST_SUITE_P(
     Form9, Form9Respuestas,
-    ::testing::Values(CasoForm9{"S", true, false, {"¿Considera que es la solución?"}},
-                      CasoForm9{"NS", false, true, {"¿Considera que es la solución?", "¿Desea salir del cálculo?"}},
-                      CasoForm9{"NN", false, false, {"¿Considera que es la solución?", "¿Desea salir del cálculo?"}}));
+    ::testing::Values(
+        CasoForm9{"S", true, false, {"¿Considera que es la solución?"}},
+        CasoForm9{
+            "NS", false, true, {"¿Considera que es la solución?", "¿Desea salir del cálculo?"}},
+        CasoForm9{
+            "NN", false, false, {"¿Considera que es la solución?", "¿Desea salir del cálculo?"}}));
 
 // ------------------------------------------------------------------------------------------------
 // Form13
@@ -115,18 +118,24 @@ TEST_F(Form13Prueba, EnSueloMuestraLosEsfuerzosNormalesYSusLímites) {
   pantalla.cerrada = false;
   pantalla.Activar(ui);
   EXPECT_EQ(pantalla.título, "Resultados de los sigma normales en el proceso iterativo");
-  EXPECT_EQ(pantalla.nota,
-            "Chequeo de los esfuerzo normal (total) a la SPF.\nObserve en la parte inferior en cuál dovela no le "
-            "chequea el valor del esfuerzo normal total, el cual es determinante en la resistencia al esfuerzo de "
-            "tensión del suelo. Ud. puede modificar el valor si lo desea tomando en consideración que el mismo debe "
-            "ser mayor que el valor presentado en la cuarta columna, de lo contrario cancele y modifica los "
-            "multiplicadores de Lagrange y el factor de seguridad en la opción Parámetros Iniciales.");
-  EXPECT_EQ(lista().columnas, (std::vector<std::string>{"Dovela", "Sig_ant", "Sig_act", "Sig_mín"}));
+  EXPECT_EQ(
+      pantalla.nota,
+      "Chequeo de los esfuerzo normal (total) a la SPF.\nObserve en la parte inferior en cuál "
+      "dovela no le "
+      "chequea el valor del esfuerzo normal total, el cual es determinante en la resistencia al "
+      "esfuerzo de "
+      "tensión del suelo. Ud. puede modificar el valor si lo desea tomando en consideración que el "
+      "mismo debe "
+      "ser mayor que el valor presentado en la cuarta columna, de lo contrario cancele y modifica "
+      "los "
+      "multiplicadores de Lagrange y el factor de seguridad en la opción Parámetros Iniciales.");
+  EXPECT_EQ(lista().columnas,
+            (std::vector<std::string>{"Dovela", "Sig_ant", "Sig_act", "Sig_mín"}));
   // Limits on the total stresses: −c/tanφ + u = −2, and −1.5 under the pore pressure of slice 2.
   EXPECT_EQ(lista().filas, (std::vector<std::vector<std::string>>{{"1", "1.00", "1.23", "-2.00"},
-                                                                   {"2", "2.00", "2.50", "-1.50"},
-                                                                   {"3", "-1.00", "-2.50", "-2.00"},
-                                                                   {"4", "4.00", "4.25", "-2.00"}}));
+                                                                  {"2", "2.00", "2.50", "-1.50"},
+                                                                  {"3", "-1.00", "-2.50", "-2.00"},
+                                                                  {"4", "4.00", "4.25", "-2.00"}}));
   EXPECT_EQ(pantalla.texto("TextoDovelaFallida"), "3");
 }
 
@@ -134,7 +143,8 @@ TEST_F(Form13Prueba, ElMaterialDecideTítuloYTexto) {
   InterfazGuionada ui;
   p.DovelaFallida = 0;
   pantalla.Activar(ui);
-  EXPECT_NE(pantalla.nota.find("\nCompare la columna '3' con la '4' para observar en cuales dovelas no le chequea el valor"),
+  EXPECT_NE(pantalla.nota.find("\nCompare la columna '3' con la '4' para observar en cuales "
+                               "dovelas no le chequea el valor"),
             std::string::npos);
   p.TipoDeMaterial = "R";
   pantalla.leySigma3 = true;
@@ -142,7 +152,8 @@ TEST_F(Form13Prueba, ElMaterialDecideTítuloYTexto) {
   pantalla.Activar(ui);
   EXPECT_EQ(pantalla.título, "Resultados de los sigma3 en el proceso iterativo");
   EXPECT_EQ(pantalla.nota.substr(0, pantalla.nota.find('\n')), "Chequeo de sigma '3'");
-  EXPECT_NE(pantalla.nota.find("no chequeó un valor de esfuerzo principal menor sigma '3'"), std::string::npos);
+  EXPECT_NE(pantalla.nota.find("no chequeó un valor de esfuerzo principal menor sigma '3'"),
+            std::string::npos);
   pantalla.leySigma3 = false;
   pantalla.Activar(ui);
   EXPECT_EQ(pantalla.título, "Resultados de los sigma normales en el proceso iterativo");
@@ -194,8 +205,9 @@ TEST_F(Form13Prueba, UnaFilaVacíaBloqueaAceptar) {
   pantalla.Pulsar("BotónAceptar", ui);
   ASSERT_FALSE(ui.Transcripción().empty());
   EXPECT_EQ(ui.Transcripción().back().título, "Valores de esfuerzos normales");
-  EXPECT_EQ(ui.Transcripción().back().texto,
-            "Faltan datos. Debe introducir los valores deseados para todos y cada una de las dovelas");
+  EXPECT_EQ(
+      ui.Transcripción().back().texto,
+      "Faltan datos. Debe introducir los valores deseados para todos y cada una de las dovelas");
   EXPECT_FALSE(pantalla.cerrada);
   EXPECT_FALSE(p.SigmaCorregidaDisponible);
 }
@@ -216,8 +228,9 @@ TEST_F(Form13Prueba, SalirPreguntaSiUsarLosValores) {
   EXPECT_TRUE(pantalla.cerrada);
   EXPECT_TRUE(p.SigmaCorregidaDisponible);
   EXPECT_DOUBLE_EQ(p.EsfuerzoIteración(4, 2), -1.0);
-  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{"Ud. desea utilizar los valores actuales de sigma para el cálculo?",
-                                                   "Ud. desea utilizar los valores actuales de sigma para el cálculo?"}));
+  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{
+                             "Ud. desea utilizar los valores actuales de sigma para el cálculo?",
+                             "Ud. desea utilizar los valores actuales de sigma para el cálculo?"}));
 }
 
 TEST_F(Form13Prueba, FricciónNulaEsUnaFallaAritmética) {

@@ -24,7 +24,8 @@ struct Sobrescritura : ::testing::Test {
     p.ParámetrosIniciales.ParámetrosInstantáneos = 3;
     p.NúmeroBordes = 4;
     auto& d = p.TablaDovelas;
-    for (auto* c : {&d.CohesiónBase, &d.FricciónBase, &d.TanFricciónBase, &d.PresiónPoros}) c->Redimensionar(3);
+    for (auto* c : {&d.CohesiónBase, &d.FricciónBase, &d.TanFricciónBase, &d.PresiónPoros})
+      c->Redimensionar(3);
     for (int i = 1; i <= 3; ++i) {
       d.CohesiónBase[i] = 0.3058 * i;
       d.FricciónBase[i] = 19.6;
@@ -54,8 +55,9 @@ TEST_F(Sobrescritura, Form18CambiaUnaDovelaYAceptaLasTresColumnas) {
     s.Pulsar("BotónAceptar", u);
   });
   CambioParámetrosResistenciaPresiónPoros(p, ui);
-  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{
-                             "Si Ud. modificó algun valor de la tabla eso afectará el cálculo oroginal. ¿Acepta los cambios?"}));
+  EXPECT_EQ(ui.Textos(),
+            (std::vector<std::string>{"Si Ud. modificó algun valor de la tabla eso afectará el "
+                                      "cálculo oroginal. ¿Acepta los cambios?"}));
   const auto& d = p.TablaDovelas;
   EXPECT_DOUBLE_EQ(d.CohesiónBase[2], 1.5);
   EXPECT_DOUBLE_EQ(d.FricciónBase[2], 30);
@@ -72,7 +74,8 @@ TEST_F(Sobrescritura, Form18RevisaLosNúmerosYCancelarNoCambiaNada) {
   InterfazGuionada ui("NS");
   ui.GuionPantalla("Form18", [](Pantalla& s, Interfaz& u) {
     s.lista("ListaParámetrosDeResistencia").seleccionada = 1;
-    const char* campos[] = {"TextoCambioCohesión", "TextoCambioFricción", "TextoCambioPresiónPoros"};
+    const char* campos[] = {"TextoCambioCohesión", "TextoCambioFricción",
+                            "TextoCambioPresiónPoros"};
     for (const char* c : campos) s.texto(c) = "2";
     for (const char* c : campos) {
       s.texto(c) = "x";
@@ -86,11 +89,13 @@ TEST_F(Sobrescritura, Form18RevisaLosNúmerosYCancelarNoCambiaNada) {
   });
   CambioParámetrosResistenciaPresiónPoros(p, ui);
   EXPECT_EQ(ui.Textos(),
-            (std::vector<std::string>{
-                "Debe introducir un número para la cohesión", "Debe introducir un número para la fricción",
-                "Debe introducir un número para la presión de poros",
-                "No desea cambiar algunos valores de los parámetros de resistencia en las dovelas o presión de poros?",
-                "No desea cambiar algunos valores de los parámetros de resistencia en las dovelas o presión de poros?"}));
+            (std::vector<std::string>{"Debe introducir un número para la cohesión",
+                                      "Debe introducir un número para la fricción",
+                                      "Debe introducir un número para la presión de poros",
+                                      "No desea cambiar algunos valores de los parámetros de "
+                                      "resistencia en las dovelas o presión de poros?",
+                                      "No desea cambiar algunos valores de los parámetros de "
+                                      "resistencia en las dovelas o presión de poros?"}));
   EXPECT_DOUBLE_EQ(p.TablaDovelas.CohesiónBase[1], 0.3058);
   EXPECT_TRUE(p.DatosGuardados);
 }
@@ -101,14 +106,16 @@ TEST_F(Sobrescritura, Form18SinParámetrosInstantáneos) {
   CambioParámetrosResistenciaPresiónPoros(p, ui);
   ASSERT_EQ(ui.Transcripción().size(), 1u);
   EXPECT_EQ(InterfazGuionada::Línea(ui.Transcripción()[0]),
-            "[mensaje] PARAMETROS INSTANTANEOS | Seleccione en la PANTALLA PARAMETROS INICIALES la opción PARAMETROS "
+            "[mensaje] PARAMETROS INSTANTANEOS | Seleccione en la PANTALLA PARAMETROS INICIALES la "
+            "opción PARAMETROS "
             "INSTANTANEOS ");
   // The screen itself, opened with case 0 from elsewhere, says so too.
   Form18 pantalla(p);
   ui.Olvidar();
   ui.Abrir(pantalla);
   EXPECT_EQ(InterfazGuionada::Línea(ui.Transcripción().back()),
-            "[mensaje] Parámetros instantáneos | Ud. debe seleccionar en PARAMETROS INICIALES LA OPCION PARAMETROS "
+            "[mensaje] Parámetros instantáneos | Ud. debe seleccionar en PARAMETROS INICIALES LA "
+            "OPCION PARAMETROS "
             "INSTANTANEOS");
 }
 
@@ -120,7 +127,8 @@ TEST_F(Sobrescritura, Form34AceptaLasPresionesDeLasDovelas) {
   InterfazGuionada ui;
   ui.GuionPantalla("Form34", [](Pantalla& s, Interfaz& u) {
     auto& l = s.lista("ListaDePresiónDePoros");
-    EXPECT_EQ(l.filas, (std::vector<std::vector<std::string>>{{"1", "0.13"}, {"2", "0.25"}, {"3", "0.38"}}));
+    EXPECT_EQ(l.filas,
+              (std::vector<std::vector<std::string>>{{"1", "0.13"}, {"2", "0.25"}, {"3", "0.38"}}));
     l.seleccionada = 3;
     s.texto("TextoPresiónDePoros") = "no";
     s.Pulsar("Modificar", u);
@@ -129,7 +137,8 @@ TEST_F(Sobrescritura, Form34AceptaLasPresionesDeLasDovelas) {
     s.Pulsar("BotónAceptar", u);
   });
   PresionesDePorosEquilibrioLímite(p, ui);
-  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{"Debe introducir un número para la presión de poros"}));
+  EXPECT_EQ(ui.Textos(),
+            (std::vector<std::string>{"Debe introducir un número para la presión de poros"}));
   EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[3], 2.5);
   EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[1], 0.125);
   EXPECT_TRUE(p.PresionesExistentes);
@@ -148,7 +157,8 @@ TEST_F(Sobrescritura, Form34CancelarPreguntaYNoRegistra) {
   });
   PresionesDePorosEquilibrioLímite(p, ui);
   const std::string pregunta =
-      "Si hizo algún cambio en las presiones de poros de los elementos, debe presionar el botón Aceptar para "
+      "Si hizo algún cambio en las presiones de poros de los elementos, debe presionar el botón "
+      "Aceptar para "
       "tomarlos en cuenta en los análisis. ¿No desea registrar ningún cambio?";
   EXPECT_EQ(ui.Textos(), (std::vector<std::string>{pregunta, pregunta}));
   EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[1], 0.125);
@@ -162,7 +172,8 @@ struct CasoPuertaForm34 {
   const char* texto;
 };
 
-class PuertasForm34 : public Sobrescritura, public ::testing::WithParamInterface<CasoPuertaForm34> {};
+class PuertasForm34 : public Sobrescritura,
+                      public ::testing::WithParamInterface<CasoPuertaForm34> {};
 
 TEST_P(PuertasForm34, RechazaConSuTexto) {
   p.TipoDeAnálisis = GetParam().tipo;
@@ -178,13 +189,18 @@ INSTANTIATE_TEST_SUITE_P(
     Form34, PuertasForm34,
     ::testing::Values(
         CasoPuertaForm34{"", true, 4, "Seleccione en la pantalla principal la opción <T> ó <F>"},
-        CasoPuertaForm34{"F", true, 4, "Ud.está trabajando con elementos finitos y no por métodos de equilibrio límites."},
+        CasoPuertaForm34{
+            "F", true, 4,
+            "Ud.está trabajando con elementos finitos y no por métodos de equilibrio límites."},
         CasoPuertaForm34{"T", false, 4,
-                         "Ud.está trabajando por métodos de equilibrio límites. Ordene hacer el cálculo por el método "
-                         "seleccionado en los parámetros iniciales y luego podrá modificar las presiones de poros de "
+                         "Ud.está trabajando por métodos de equilibrio límites. Ordene hacer el "
+                         "cálculo por el método "
+                         "seleccionado en los parámetros iniciales y luego podrá modificar las "
+                         "presiones de poros de "
                          "las dovelas para un recálculo."},
         CasoPuertaForm34{"T", true, 1,
-                         "Ordene al programa hacer la estimación del factor de seguridad. Luego puede entrar a esta "
+                         "Ordene al programa hacer la estimación del factor de seguridad. Luego "
+                         "puede entrar a esta "
                          "sesión y modificar las presiones de poros y hacer un recálculo."}));
 
 }  // namespace
