@@ -283,6 +283,25 @@ TEST_F(Variacional, UnPivoteNuloEnElPrimerCampoPideOrdenarLaMatriz) {
   ExpectResultadosIntactos();
 }
 
+TEST_F(Variacional, UnPivoteNuloEnElPasoDeNewtonTambién) {
+  // A section without weight or cohesion, the crest stress 0: f = 0, the first field is 0 and
+  // passes the check (0 is not below −c/tanφ = 0); in the first Newton row E = 0 and the µ1
+  // column holds E·t/d − (ge·F + p·t) = 0, the first pivot.
+  Preparar(12, 40, 55, 1, 0);
+  for (int i = 1; i <= n; ++i) {
+    p.TablaDovelas.PesoUnitarioMedio[i] = 0;
+    p.TablaDovelas.CohesiónBase[i] = 0;
+  }
+  MarcarResultados();
+  InterfazGuionada ui("NN");
+  ProcesoIterativoEnSuelos(p, ui);
+  EXPECT_EQ(Líneas(ui).back(), "[mensaje] En cálculo | Determinante = 0, ordene la matriz");
+  EXPECT_EQ(p.NúmeroIteraciones, 1);
+  EXPECT_EQ(p.EsfuerzoIteración(5, 1), 0.0);
+  EXPECT_FALSE(p.CálculoHecho);
+  ExpectResultadosIntactos();
+}
+
 TEST_F(Variacional, PrimerCampoQueRompeMohrCoulomb) {
   Preparar(12, 30, 40, 1, -0.4);
   InterfazGuionada ui("NN");
