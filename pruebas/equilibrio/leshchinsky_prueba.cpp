@@ -189,7 +189,9 @@ TEST_P(Acads, ConvergeAlFactorPublicado) {
   EXPECT_TRUE(p.CálculoHecho);
   EXPECT_GT(FS(), 0.984);
   EXPECT_LT(FS(), 0.995);
-  EXPECT_NEAR(FS(), BishopSimplificado(p, pruebas::AcadsEx1a()), 0.01);
+  // On a circle through dry homogeneous soil Bishop's simplified method is known to fall within a
+  // few thousandths of the rigorous methods; on the same slices the two agree closer still.
+  EXPECT_NEAR(FS(), BishopSimplificado(p, pruebas::AcadsEx1a()), 0.002);
   EXPECT_LE(std::fabs(p.SumaFuerzasHorizontales), 0.001);
   EXPECT_LE(std::fabs(p.SumaFuerzasVerticales), 0.001);
   EXPECT_LE(std::fabs(p.SumaMomentos), 0.009);
