@@ -4,11 +4,14 @@
 #include "equilibrio/bishop.h"
 #include "equilibrio/fellenius.h"
 #include "equilibrio/janbu.h"
+#include "equilibrio/leshchinsky.h"
 #include "pantallas/comandos_archivo.h"
 #include "pantallas/comandos_coordenadas.h"
 #include "pantallas/constantes.h"
 #include "pantallas/constantes_elementos.h"
 #include "pantallas/form15.h"
+#include "pantallas/form18.h"
+#include "pantallas/form34.h"
 #include "pantallas/form5.h"
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
@@ -42,6 +45,9 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
+  a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
+  a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
+  a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
 }
 
 }  // namespace lomaterra
