@@ -124,7 +124,7 @@ class PantallaDeMuestra : public Pantalla {
   void Activar(Interfaz&) override {}
 };
 
-void Pantallas(const Proyecto& muestra, std::ofstream& transcripción) {
+void Pantallas(const Proyecto& muestra, const std::string& variante, std::ofstream& transcripción) {
   for (const EntradaMenú& e : ÁrbolDeMenús()) {
     if (!e.acción) continue;
     // Nothing that writes a file or ends the program.
@@ -147,18 +147,47 @@ void Pantallas(const Proyecto& muestra, std::ofstream& transcripción) {
         }
         throw Corte{};
       });
+      std::string falla;
       try {
         EjecutarComando(e.acción, copia, ui);
       } catch (const Corte&) {
       } catch (const std::exception& ex) {
-        transcripción << "  (falla: " << ex.what() << ")\n";
+        falla = ex.what();
       }
-      transcripción << "== " << e.nombre << (sí ? " [Sí]" : " [No]") << "\n";
+      transcripción << "== " << variante << ": " << e.nombre << (sí ? " [Sí]" : " [No]") << "\n";
       for (const Apunte& a : guion.Transcripción())
         transcripción << "  " << InterfazGuionada::Línea(a) << "\n";
+      if (!falla.empty()) transcripción << "  (falla: " << falla << ")\n";
       if (nueva) break;
     }
   }
+}
+
+// The sample as it stands, and as it stands with each other method chosen and after a
+// calculation, so that the screens of every method and of the results are reached too.
+void TodasLasPantallas(const Proyecto& muestra, std::ofstream& transcripción) {
+  Pantallas(muestra, "muestra", transcripción);
+  const struct {
+    const char* nombre;
+    Entero método;
+  } métodos[] = {{"Leshchinsky", 1}, {"Bishop", 2}, {"Janbu", 4}};
+  for (const auto& m : métodos) {
+    Proyecto p = muestra;
+    auto& q = p.ParámetrosIniciales;
+    q.MétodoDeCálculo = m.método;
+    q.Multiplicador1 = 30;  // an abscissa between the ends of the failure surface
+    q.Multiplicador2 = 45;  // an ordinate above the crest
+    q.EsfuerzoInicialCresta = 0;
+    Pantallas(p, m.nombre, transcripción);
+  }
+  Proyecto calculada = muestra;
+  InterfazGuionada mudo("N");
+  const auto árbol = ÁrbolDeMenús();
+  if (const EntradaMenú* fellenius = BuscarEntrada(árbol, "MétodoFellenius"))
+    EjecutarComando(fellenius->acción, calculada, mudo);
+  calculada.CálculoHecho = true;
+  calculada.ParámetrosIniciales.ParámetrosInstantáneos = 2;
+  Pantallas(calculada, "calculada", transcripción);
 }
 
 }  // namespace
@@ -200,7 +229,8 @@ int main(int argc, char** argv) {
     VentanaPrincipalQt ventana(p);
     InterfazGuionada guion("N");
     ventana.interfaz().Sustituto(&guion);
-    if (ventana.EjecutarMenú("MétodoFellenius")) Guardar(ventana, "ventana_principal_tras_fellenius");
+    if (ventana.EjecutarMenú("MétodoFellenius"))
+      Guardar(ventana, "ventana_principal_tras_fellenius");
     ventana.hide();
   }
   {
@@ -240,7 +270,7 @@ int main(int argc, char** argv) {
     Guardar(vista, "vista_genérica");
   }
   std::ofstream transcripción(QDir(carpeta).filePath("transcripcion.txt").toStdString());
-  Pantallas(muestra, transcripción);
+  TodasLasPantallas(muestra, transcripción);
   std::printf("%zu imágenes en %s\n", guardadas.size(), carpeta.toUtf8().constData());
   return fallos == 0 && guardadas.count("ventana_principal") ? 0 : 1;
 }
