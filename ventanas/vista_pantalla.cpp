@@ -1,5 +1,6 @@
 #include "vista_pantalla.h"
 
+#include <QFontMetrics>
 #include <QFormLayout>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -7,6 +8,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QSpacerItem>
 #include <QStyle>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -38,6 +41,8 @@ VistaPantalla::VistaPantalla(Pantalla& pantalla, Interfaz& ui, QWidget* padre)
   setStyleSheet(kEstiloSoloLectura);
   diseño_ = new QVBoxLayout(this);
   diseño_->setContentsMargins(14, 12, 14, 12);
+  anchoTítulo_ = new QSpacerItem(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+  diseño_->addSpacerItem(anchoTítulo_);
   Construir();
   Refrescar();
 }
@@ -133,14 +138,18 @@ void VistaPantalla::Construir() {
     tabla->verticalHeader()->setVisible(false);
     tabla->verticalHeader()->setDefaultSectionSize(22);
     tabla->horizontalHeader()->setMinimumSectionSize(70);
-    tabla->setMinimumHeight(170);
+    tabla->setMinimumHeight(220);
+    // Wide enough for every column caption in full.
+    const QFontMetrics letras(tabla->horizontalHeader()->font());
+    int ancho = 24 + tabla->verticalScrollBar()->sizeHint().width();
+    for (const QString& t : títulos) ancho += std::max(80, letras.horizontalAdvance(t) + 28);
     if (tabla->columnCount() > kColumnasAjustadas) {
       tabla->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
       tabla->horizontalHeader()->setStretchLastSection(true);
-      tabla->setMinimumWidth(900);
+      tabla->setMinimumWidth(std::min(ancho, 1000));
     } else {
       tabla->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-      tabla->setMinimumWidth(std::max<int>(360, 95 * tabla->columnCount()));
+      tabla->setMinimumWidth(std::max(360, ancho));
     }
     connect(tabla, &QTableWidget::itemSelectionChanged, this, [this, l, tabla] {
       if (refrescando_) return;
@@ -187,6 +196,10 @@ void VistaPantalla::Refrescar() {
   if (Firma() != firma_) Construir();
   refrescando_ = true;
   setWindowTitle(InterfazQt::TítuloDeCaja(pantalla_.título));
+  // Room for the whole title on the window's bar.
+  anchoTítulo_->changeSize(std::min(900, fontMetrics().horizontalAdvance(windowTitle()) + 120), 0,
+                           QSizePolicy::Fixed, QSizePolicy::Fixed);
+  diseño_->invalidate();
   nota_->setText(Q(pantalla_.nota));
   nota_->setVisible(!pantalla_.nota.empty());
 

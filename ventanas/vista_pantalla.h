@@ -14,6 +14,7 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QSpacerItem;
 class QTableWidget;
 class QVBoxLayout;
 
@@ -65,6 +66,7 @@ class VistaPantalla : public QDialog {
   std::vector<QPushButton*> botones_;  // one a button
   QWidget* cuerpo_ = nullptr;
   QVBoxLayout* diseño_ = nullptr;
+  QSpacerItem* anchoTítulo_ = nullptr;  // keeps the window as wide as its title
 };
 
 }  // namespace lomaterra
