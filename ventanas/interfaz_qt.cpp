@@ -109,11 +109,13 @@ void InterfazQt::Mensaje(const std::string& texto, const std::string& título) {
     sustituto_->Mensaje(texto, título);
     return;
   }
+  MostrarLaQueSeActiva();
   CrearCaja(texto, título, false, Padre())->exec();
 }
 
 bool InterfazQt::Pregunta(const std::string& texto, const std::string& título) {
   if (sustituto_) return sustituto_->Pregunta(texto, título);
+  MostrarLaQueSeActiva();
   auto caja = CrearCaja(texto, título, true, Padre());
   caja->exec();
   return caja->clickedButton() == caja->defaultButton();
@@ -124,11 +126,29 @@ void InterfazQt::Estado(const std::string& texto) {
   if (sustituto_) sustituto_->Estado(texto);
 }
 
+void InterfazQt::MostrarLaQueSeActiva() {
+  if (!activando_) return;
+  activando_->Refrescar();
+  activando_->show();
+  activando_->raise();
+}
+
 void InterfazQt::Abrir(Pantalla& pantalla) {
   pantalla.cerrada = false;
-  pantalla.Activar(*this);
+  // The view exists before the screen is activated: a screen that asks or warns as it opens is
+  // then seen, filled so far, behind its boxes, as a window whose opening code runs once shown.
+  VistaPantalla vista(pantalla, *this, Padre());
+  VistaPantalla* anterior = activando_;
+  activando_ = &vista;
+  try {
+    pantalla.Activar(*this);
+  } catch (...) {
+    activando_ = anterior;
+    throw;
+  }
+  activando_ = anterior;
   if (!pantalla.cerrada) {
-    VistaPantalla vista(pantalla, *this, Padre());
+    vista.Refrescar();
     if (alMostrar_) {
       vista.show();
       alMostrar_(vista);

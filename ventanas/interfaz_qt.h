@@ -70,12 +70,16 @@ class InterfazQt : public Interfaz {
 
  private:
   QWidget* Padre() const;
+  // Shows the screen being activated, as it stands, before a box of its opening code.
+  void MostrarLaQueSeActiva();
 
   QWidget* ventana_ = nullptr;
   std::function<void(const QString&)> alEstado_;
   Interfaz* sustituto_ = nullptr;
   std::function<void(VistaPantalla&)> alMostrar_;
-  QPointer<QDialog> ayuda_;  // one help window, raised again when asked for again
+  QPointer<QDialog> ayuda_;
+  VistaPantalla* activando_ = nullptr;  // the view of the screen whose Activar is running  // one
+                                        // help window, raised again when asked for again
 };
 
 // QString from and to the UTF-8 strings of the core.

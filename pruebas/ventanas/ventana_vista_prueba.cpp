@@ -6,8 +6,10 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTimer>
 #include <string>
 #include <vector>
 
@@ -234,6 +236,47 @@ TEST_F(AbrirPrueba, UnaFallaAritméticaDeUnBotónTerminaElComandoConSuMensaje) {
   EXPECT_FALSE(siguió);
   ASSERT_EQ(guion.Transcripción().size(), 1u);
   EXPECT_EQ(guion.Transcripción()[0].título, TítuloDeFallo());
+}
+
+}  // namespace
+}  // namespace lomaterra
+
+namespace lomaterra {
+namespace {
+
+// A screen that shows its numbers and asks at once, as the iteration screens do.
+class PantallaQuePregunta : public Pantalla {
+ public:
+  PantallaQuePregunta() {
+    nombre = "FormPregunta";
+    título = "Resultados de las iteraciones";
+  }
+  void Activar(Interfaz& ui) override {
+    campos = {{"TextoDelFactorDeSeguridad", "Factor de seguridad:", "1.234567890", "", true}};
+    if (ui.Pregunta("¿Considera que es la solución?")) cerrada = true;
+  }
+};
+
+// The real box, answered by a timer: behind it the screen stands already shown and filled.
+TEST_F(VistaPrueba, LaPantallaSeVeDetrásDeLaPreguntaDeSuApertura) {
+  InterfazQt ui;
+  PantallaQuePregunta pantalla;
+  bool vistaDetrás = false;
+  QString valorDetrás;
+  QTimer::singleShot(0, [&] {
+    auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!caja) return;
+    if (auto* vista = qobject_cast<QDialog*>(caja->parentWidget())) {
+      vistaDetrás = vista->isVisible() && vista->objectName() == "FormPregunta";
+      if (auto* casilla = vista->findChild<QLineEdit*>("TextoDelFactorDeSeguridad"))
+        valorDetrás = casilla->text();
+    }
+    caja->findChild<QPushButton*>(QString::fromUtf8("BotónSí"))->click();
+  });
+  ui.Abrir(pantalla);
+  EXPECT_TRUE(vistaDetrás);
+  EXPECT_EQ(valorDetrás, "1.234567890");
+  EXPECT_TRUE(pantalla.cerrada);
 }
 
 }  // namespace
