@@ -78,6 +78,7 @@ void ReiniciarProyecto(Proyecto& p) {
   p.EstratosCaracterizados = false;
   p.ParámetrosInicialesDados = false;
   p.ParámetrosIniciales.VaríaRadio = false;
+  p.ParámetrosIniciales.LetraVaríaRadio = "N";  // the flag and its letter are one datum
   p.GeometríaFallaDefinida = false;
   p.CargasUniformesDadas = false;
   p.CargasPuntualesDadas = false;
@@ -99,6 +100,7 @@ void ReiniciarProyecto(Proyecto& p) {
   p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = false;
   p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = false;
   p.DesembalseRápido = false;
+  p.PresionesExistentes = false;
   // Everything of the mesh and of the seismic analysis.
   p.Malla.Limpiar();
   p.Sísmico.Limpiar();
