@@ -87,6 +87,9 @@ void ReiniciarProyecto(Proyecto& p) {
   p.HistoriaIteraciones.Redimensionar(0);
   p.NúmeroIteraciones = 0;
   p.TablaDovelas.BorrarResultados();
+  // No slices stand after a reset: the stage flags are cleared below, so the first calculation
+  // lays them again, and a project saved before it writes no slice rows.
+  p.NúmeroBordes = 0;
   p.SumaTangenciales = p.SumaNormalesTotales = p.SumaNormalesEfectivos = 0;
   p.SumaPrincipalesMayores = p.SumaPrincipalesMenores = 0;
   p.SumaFuerzasHorizontales = p.SumaFuerzasVerticales = p.SumaMomentos = 0;

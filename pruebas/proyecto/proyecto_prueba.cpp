@@ -58,6 +58,7 @@ class Reinicio : public ::testing::Test {
     p.CoordenadasTalud.Redimensionar(2);
     p.CálculoHecho = p.InformaciónDada = p.EstratosCaracterizados = true;
     p.EtapaPoros = p.EtapaDovelas = true;
+    p.NúmeroBordes = 11;
     p.PresionesExistentes = p.DesembalseRápido = true;
     p.GrietaTracción.EmpujeGrieta = 4.5;
     p.DatosGuardados = false;
@@ -96,6 +97,7 @@ TEST_F(Reinicio, BorraLoQueDiceYConservaLoDemás) {
   EXPECT_EQ(p.NúmeroPuntosTalud, 0);
   EXPECT_FALSE(p.CálculoHecho || p.InformaciónDada || p.EstratosCaracterizados);
   EXPECT_FALSE(p.EtapaPoros || p.EtapaDovelas);
+  EXPECT_EQ(p.NúmeroBordes, 0);
   EXPECT_FALSE(p.PresionesExistentes || p.DesembalseRápido);
   EXPECT_EQ(p.GrietaTracción.EmpujeGrieta, 0);
   EXPECT_TRUE(p.DatosGuardados && p.ListaGuardada);
