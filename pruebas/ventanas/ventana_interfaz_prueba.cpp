@@ -6,8 +6,10 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QUrl>
 #include <string>
 
 #include "interfaz_qt.h"
@@ -131,6 +133,11 @@ TEST_F(InterfazPrueba, LaAyudaSeMuestraEnUnaSolaVentanaConLaGuía) {
   const QString guía = texto->toPlainText();
   EXPECT_TRUE(guía.contains(QString::fromUtf8("Teoría: las fórmulas de cada método")));
   EXPECT_FALSE(guía.contains("<h2>"));  // shown as a document, not as its markup
+  // A link of the contents takes the reader to its section.
+  QApplication::processEvents();
+  texto->setSource(QUrl("#teoria"));
+  QApplication::processEvents();
+  EXPECT_GT(texto->verticalScrollBar()->value(), 0);
   ayudas.front()->close();
 }
 
