@@ -11,8 +11,10 @@ inline QApplication& Aplicación() {
   static char nombre[] = "prueba_ventanas";
   static char* argv[] = {nombre, nullptr};
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QApplication app(argc, argv);
-  return app;
+  // Never destroyed: a QApplication torn down among the other statics at exit can crash after
+  // every test has passed.
+  static QApplication* app = new QApplication(argc, argv);
+  return *app;
 }
 
 }  // namespace lomaterra::pruebas
