@@ -118,8 +118,7 @@ class TresDovelas : public ::testing::Test {
     }
     p.Trabajo.XMáximaFalla = 9, p.Trabajo.XMínimaFalla = 0;
     p.Trabajo.YPrimerPuntoFalla = 6, p.Trabajo.YÚltimoPuntoFalla = 0;
-    p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = true;
-    p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = true;
+    pruebas::EtapasHechas(p);
   }
   void Cargas() {
     // A uniform load over 6..9 (slice 1) and a point load at x = 4 (slice 2), the crack with its
@@ -355,8 +354,7 @@ TEST(FelleniusCircular, ElSismoTomaSuBrazoDelDobleDeLaOrdenadaDelCentroMenosLaAl
   d.XMedio[1] = 6, d.YTalud[1] = 6, d.YBase[1] = 2, d.PesoUnitarioMedio[1] = 2, d.PresiónPoros[1] = 1;
   d.CohesiónBase[1] = 1, d.TanFricciónBase[1] = 0.5, d.Ancho[1] = 2;
   p.Trabajo.YPrimerPuntoFalla = 10, p.Trabajo.YÚltimoPuntoFalla = 0;
-  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = true;
-  p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = true;
+  pruebas::EtapasHechas(p);
   InterfazGuionada ui("NN");
   ASSERT_EQ(EjecutarComando(MétodoFellenius, p, ui), FinDeComando::Normal);
   EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[1], 6.73 / (25.6 + 105.6 + 20.0 / 3), 1e-12);
