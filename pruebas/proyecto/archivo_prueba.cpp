@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "apoyo/apoyo.h"
+#include "apoyo/proyectos.h"
 #include "proyecto/archivo.h"
 #include "proyecto/interfaz_guionada.h"
 
@@ -40,13 +41,6 @@ std::vector<std::string> Líneas(const std::string& bytes) {
   return r;
 }
 
-void XY(TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> puntos) {
-  n = static_cast<Entero>(puntos.size());
-  t.Redimensionar(n);
-  long i = 1;
-  for (auto [x, y] : puntos) { t.X[i] = x; t.Y[i] = y; ++i; }
-}
-
 // A layered soil slope with every part of the format that a soil project uses.
 Proyecto ProyectoSuelo(bool conResultados) {
   Proyecto p;
@@ -60,12 +54,12 @@ Proyecto ProyectoSuelo(bool conResultados) {
   pi.Radio = 26.5; pi.ReferenciaMomentoX = 0; pi.ReferenciaMomentoY = 0;
   pi.CoeficienteSísmicoHorizontal = 0.15; pi.CoeficienteSísmicoVertical = 0.05; pi.NúmeroDovelas = 12;
   pi.VaríaRadio = true;
-  XY(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
-  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {15, 10}});
+  pruebas::PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {15, 10}});
   p.NúmeroTramosFalla = 1;
   p.TramoFalla.Redimensionar(1);
   p.TramoFalla.PuntoInicial[1] = 1; p.TramoFalla.PuntoFinal[1] = 2; p.TramoFalla.TipoUnión[1] = "C";
-  XY(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{60, 16}, {30, 12.5}, {0, 9.75}});
+  pruebas::PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{60, 16}, {30, 12.5}, {0, 9.75}});
   p.NúmeroEstratos = 2;
   p.NúmeroEstratosCaracterizados = 2;
   p.PuntosEstrato.Redimensionar(2);
@@ -347,7 +341,7 @@ TEST_F(ArchivoProyecto, SueloSinResultadosIdaYVuelta) {
   Proyecto p = ProyectoSuelo(false);
   p.ParámetrosIniciales.MétodoDeCálculo = 3;
   // A polyline of three stretches instead of the arc.
-  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {35, 12}, {25, 9}, {15, 10}});
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {35, 12}, {25, 9}, {15, 10}});
   p.NúmeroTramosFalla = 3;
   p.TramoFalla.Redimensionar(3);
   for (long i = 1; i <= 3; ++i) { p.TramoFalla.PuntoInicial[i] = i; p.TramoFalla.PuntoFinal[i] = i + 1; p.TramoFalla.TipoUnión[i] = "L"; }
@@ -600,7 +594,7 @@ TEST_F(ArchivoProyecto, ElEscritorOrdenaElEstadoAntesDelCuerpo) {
   Proyecto p = ProyectoSuelo(true);
   auto& pi = p.ParámetrosIniciales;
   pi.CentroX = 11; pi.CentroY = 12; pi.ReferenciaMomentoX = 21; pi.ReferenciaMomentoY = 22;
-  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {30, 11}, {15, 10}});
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {30, 11}, {15, 10}});
   p.NúmeroTramosFalla = 2;
   p.TramoFalla.Redimensionar(2);
   p.TramoFalla.PuntoInicial[1] = 1; p.TramoFalla.PuntoFinal[1] = 2; p.TramoFalla.TipoUnión[1] = "L";
