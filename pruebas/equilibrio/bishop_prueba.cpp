@@ -434,6 +434,14 @@ const char* const kDesembalse = "Está analizando desembalse rápido en presas d
 TEST(BishopPuertas, PalabraPorPalabra) {
   const std::string ojo = "OJO PELAO con este mensaje:";
   const CasoPuerta casos[] = {
+      {"todas abiertas",
+       [](Proyecto&) {},
+       "NN",
+       {Preg(kDesembalse, false),
+        Preg("¿Es primera vez que está haciendo el cálculo o modificó las características "
+             "geométricas o geomecánicas del problema o niveles freáticos?",
+             false),
+        Msj("", kFin)}},
       {"sin tipo",
        [](Proyecto& p) { p.TipoDeAnálisis = ""; },
        "",
@@ -538,20 +546,6 @@ TEST(BishopPuertas, PalabraPorPalabra) {
               c.esperado.back().texto == kFin || std::string(c.nombre) == "recalcular no")
         << c.nombre;
   }
-}
-
-TEST(BishopPuertas, LaPreguntaDeLasEtapasYElTranscritoCompleto) {
-  Proyecto p;
-  TresDovelas(p);
-  InterfazGuionada ui("NN");
-  MétodoBishop(p, ui);
-  EXPECT_EQ(Líneas(ui.Transcripción()),
-            Líneas(std::vector<Apunte>{
-                Preg(kDesembalse, false),
-                Preg("¿Es primera vez que está haciendo el cálculo o modificó las características "
-                     "geométricas o geomecánicas del problema o niveles freáticos?",
-                     false),
-                Msj("", kFin)}));
 }
 
 // --- With the real stages ------------------------------------------------------------------------
