@@ -49,11 +49,6 @@ Proyecto LeshchinskyHomogéneo() {
   return p;
 }
 
-std::string Bytes(const std::string& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  return std::string((std::istreambuf_iterator<char>(f)), {});
-}
-
 TEST(LeshchinskyEjemplo, DISABLED_GenerarEjemplo) {
   Proyecto p = LeshchinskyHomogéneo();
   InterfazGuionada ui;
@@ -66,7 +61,7 @@ TEST(LeshchinskyEjemplo, ElArchivoEsElDeSuProyecto) {
   InterfazGuionada ui;
   ASSERT_TRUE(GuardarProyecto(p, copia, ui));
   ASSERT_TRUE(std::filesystem::exists(pruebas::RutaEjemplo(kArchivo)));
-  EXPECT_EQ(Bytes(copia), Bytes(pruebas::RutaEjemplo(kArchivo)));
+  EXPECT_EQ(pruebas::LeerArchivo(copia), pruebas::LeerArchivo(pruebas::RutaEjemplo(kArchivo)));
 }
 
 // The referee problem from its file, through the six stages: published factors of rigorous
