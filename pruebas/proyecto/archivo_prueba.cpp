@@ -18,11 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string LeerBytes(const std::string& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  return std::string((std::istreambuf_iterator<char>(f)), {});
-}
-
 void EscribirBytes(const std::string& ruta, const std::string& bytes) {
   std::ofstream f(ruta, std::ios::binary);
   f << bytes;
@@ -369,7 +364,7 @@ TEST_F(ArchivoProyecto, LetraDeVaríaRadioSoloConUnArcoYBishop) {
     p.NúmeroTramosFalla = c.tramos;
     Proyecto q = IdaYVuelta(p);
     CompararProyectos(p, q);
-    const auto líneas = Líneas(LeerBytes(ruta));
+    const auto líneas = Líneas(pruebas::LeerArchivo(ruta));
     // Head 8 lines; body: material, letter, method, ten reals, surface (1 + 4), failure (1 + 2).
     const std::size_t tramos = 8 + 3 + 10 + 5 + 3;
     ASSERT_GT(líneas.size(), tramos + 2);
@@ -415,7 +410,7 @@ TEST_F(ArchivoProyecto, DescripciónComillasYAcentos) {
   p.Ventana.TextoProyecto = "Primera línea\r\nsegunda \"corte\"\nfin";
   p.InformaciónProyecto.Empresa = "Compañía Técnica Ñandú";
   ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
-  const std::string bytes = LeerBytes(ruta);
+  const std::string bytes = pruebas::LeerArchivo(ruta);
   // Windows-1252 on disk: one byte a letter, no UTF-8 pairs.
   EXPECT_NE(bytes.find("\"Compa\xF1\xED""a T\xE9""cnica \xD1""and\xFA\""), std::string::npos);
   EXPECT_EQ(bytes.find("\xC3"), std::string::npos);
@@ -450,7 +445,7 @@ TEST_F(ArchivoProyecto, QuinceCifrasSignificativas) {
   p.ParámetrosIniciales.Multiplicador2 = -1.0e-12 / 7.0;
   CargarPanelCoordenadas(p, 1, 1);
   ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
-  const auto líneas = Líneas(LeerBytes(ruta));
+  const auto líneas = Líneas(pruebas::LeerArchivo(ruta));
   EXPECT_EQ(líneas[8 + 3 + 2], "0.333333333333333");
   EXPECT_EQ(líneas[8 + 3 + 10 + 2], "123456.789012346,20");
   Proyecto q;
@@ -481,7 +476,7 @@ TEST_F(ArchivoProyecto, PuntoDecimalBajoUnaConfiguraciónEspañola) {
   std::locale::global(antes);
   ASSERT_TRUE(guardado);
   ASSERT_TRUE(leído);
-  const auto líneas = Líneas(LeerBytes(ruta));
+  const auto líneas = Líneas(pruebas::LeerArchivo(ruta));
   EXPECT_EQ(líneas[8 + 3 + 2], "1.35");
   EXPECT_EQ(líneas[8 + 3 + 10 + 3], "20,10");
   CompararProyectos(p, q);
@@ -641,7 +636,7 @@ TEST_F(ArchivoProyecto, EscrituraFallidaLoDiceYNoTocaElArchivoAnterior) {
 TEST_F(ArchivoProyecto, ArchivoTruncadoGuardaLoLeído) {
   Proyecto p = ProyectoSuelo(true);
   ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
-  const std::string bytes = LeerBytes(ruta);
+  const std::string bytes = pruebas::LeerArchivo(ruta);
   // Cut inside the first stratum, after two of its three points: head, parameters, surface,
   // failure surface, its stretch and letter, phreatic line, strata line, count and 8 fields.
   const auto líneas = Líneas(bytes);
