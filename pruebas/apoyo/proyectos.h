@@ -1,6 +1,7 @@
 // Short ways to fill a project in code: point lists, one-stretch surfaces, slice tables by hand.
 #pragma once
 
+#include <array>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -39,6 +40,27 @@ inline void PonerTramos(Proyecto& p, const std::vector<std::tuple<int, int, std:
     p.TramoFalla.TipoUnión[t] = letra;
   }
   p.GeometríaFallaDefinida = true;
+}
+
+// Uniform loads as rows {xo, xf, qx, qy} (at level 0) and point loads as rows {x, y, Px, Py}; the
+// counts and the flags follow.
+inline void CargasUniformes(Proyecto& p, std::vector<std::array<double, 4>> filas) {
+  p.NúmeroCargasUniformes = static_cast<Entero>(filas.size());
+  p.CargasUniformesDadas = true;
+  p.CargaUniforme.Redimensionar(p.NúmeroCargasUniformes);
+  for (long i = 1; i <= p.NúmeroCargasUniformes; ++i) {
+    const auto& f = filas[static_cast<std::size_t>(i - 1)];
+    p.CargaUniforme.xo[i] = f[0], p.CargaUniforme.xf[i] = f[1], p.CargaUniforme.qx[i] = f[2], p.CargaUniforme.qy[i] = f[3];
+  }
+}
+inline void CargasPuntuales(Proyecto& p, std::vector<std::array<double, 4>> filas) {
+  p.NúmeroCargasPuntuales = static_cast<Entero>(filas.size());
+  p.CargasPuntualesDadas = true;
+  p.CargaPuntual.Redimensionar(p.NúmeroCargasPuntuales);
+  for (long i = 1; i <= p.NúmeroCargasPuntuales; ++i) {
+    const auto& f = filas[static_cast<std::size_t>(i - 1)];
+    p.CargaPuntual.Xpuntual[i] = f[0], p.CargaPuntual.Ypuntual[i] = f[1], p.CargaPuntual.Px[i] = f[2], p.CargaPuntual.Py[i] = f[3];
+  }
 }
 
 // The surface as one stretch from point 1 to point 2, joined by `tipo` ("C" arc, "L" line).

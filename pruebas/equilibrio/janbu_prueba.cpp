@@ -47,20 +47,8 @@ void TresDovelas(Proyecto& p) {
   Fijar(d.BordeYFalla, {2, 0.4, 0, 0});
   Fijar(d.BordeYTalud, {6, 3.4, 1.5, 0});
   Fijar(d.PendienteTalud, {1.3, 1.9 / 1.2, 0.9375});
-  p.CargasUniformesDadas = true;
-  p.NúmeroCargasUniformes = 1;
-  p.CargaUniforme.Redimensionar(1);
-  p.CargaUniforme.xo[1] = 2.5;
-  p.CargaUniforme.xf[1] = 4.5;
-  p.CargaUniforme.qx[1] = 0.2;
-  p.CargaUniforme.qy[1] = 0.5;
-  p.CargasPuntualesDadas = true;
-  p.NúmeroCargasPuntuales = 1;
-  p.CargaPuntual.Redimensionar(1);
-  p.CargaPuntual.Xpuntual[1] = 1.5;
-  p.CargaPuntual.Ypuntual[1] = 3.3;
-  p.CargaPuntual.Px[1] = 0.4;
-  p.CargaPuntual.Py[1] = 1;
+  pruebas::CargasUniformes(p, {{2.5, 4.5, 0.2, 0.5}});
+  pruebas::CargasPuntuales(p, {{1.5, 3.3, 0.4, 1}});
 }
 
 std::vector<double> Historia(const Proyecto& p) {
