@@ -2,6 +2,8 @@
 
 #include <atomic>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <unistd.h>
 
 namespace lomaterra::pruebas {
@@ -16,6 +18,11 @@ std::string CarpetaTemporal() {
   std::filesystem::remove_all(ruta);
   std::filesystem::create_directories(ruta);
   return ruta.string();
+}
+
+std::string LeerArchivo(const std::string& ruta) {
+  std::ifstream f(ruta, std::ios::binary);
+  return std::string((std::istreambuf_iterator<char>(f)), {});
 }
 
 }  // namespace lomaterra::pruebas

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "apoyo/proyectos.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra::pruebas {
@@ -23,21 +24,9 @@ inline Proyecto EjemploACADS(double dovelas, Entero método) {
   pi.FSInicial = 1;
   pi.NúmeroDovelas = dovelas;
   pi.Radio = 28.2;
-  auto línea = [](TablaXY& t, Entero& n, std::vector<std::pair<double, double>> v) {
-    n = static_cast<Entero>(v.size());
-    t.Redimensionar(n);
-    for (long k = 1; k <= n; ++k) {
-      t.X[k] = v[static_cast<std::size_t>(k - 1)].first;
-      t.Y[k] = v[static_cast<std::size_t>(k - 1)].second;
-    }
-  };
-  línea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
-  línea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
-  p.NúmeroTramosFalla = 1;
-  p.TramoFalla.Redimensionar(1);
-  p.TramoFalla.PuntoInicial[1] = 1;
-  p.TramoFalla.PuntoFinal[1] = 2;
-  p.TramoFalla.TipoUnión[1] = "C";
+  PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
+  UnTramo(p, "C");
   p.GeometríaFallaDefinida = true;
   // One stratum whose lower line runs well below the circle.
   p.NúmeroEstratos = 1;

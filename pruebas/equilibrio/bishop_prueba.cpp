@@ -6,6 +6,7 @@
 #include <map>
 #include <vector>
 
+#include "apoyo/proyectos.h"
 #include "equilibrio/acads_apoyo.h"
 #include "equilibrio/bishop.h"
 #include "proyecto/interfaz_guionada.h"
@@ -25,45 +26,16 @@ const char* const kFin =
 // The driving moment on the arc carries the radius while the resisting sum is of forces, so the
 // factors here are about a fifth of the textbook ones.
 void TresDovelas(Proyecto& p) {
-  p.TipoDeAnálisis = "T";
-  p.TipoDeMaterial = "S";
-  p.ParámetrosInicialesDados = true;
+  pruebas::TresDovelasDeSuelo(p, 2);
   auto& pi = p.ParámetrosIniciales;
-  pi.MétodoDeCálculo = 2;
-  pi.FSInicial = 1;
   pi.Radio = 5;
   pi.CentroX = 0;
   pi.CentroY = 5;
-  p.NúmeroTramosFalla = 1;
-  p.TramoFalla.Redimensionar(1);
-  p.TramoFalla.TipoUnión[1] = "C";
-  p.TramoFalla.PuntoInicial[1] = 1;
-  p.TramoFalla.PuntoFinal[1] = 2;
+  pruebas::UnTramo(p, "C");
   p.Trabajo.YPrimerPuntoFalla = 2;
   p.Trabajo.YÚltimoPuntoFalla = 0.06;
-  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = p.EtapaGeometría = p.EtapaEstratos =
-      p.EtapaPoros = true;
-
-  auto& d = p.TablaDovelas;
-  p.NúmeroBordes = 4;
-  auto fijar = [](Tabla<double>& t, std::vector<double> v) {
-    t.Redimensionar(static_cast<long>(v.size()));
-    for (std::size_t i = 0; i < v.size(); ++i) t[static_cast<long>(i) + 1] = v[i];
-  };
-  fijar(d.BordeX, {4, 2, 0.8, -0.8});
-  fijar(d.XMedio, {3, 1.4, 0});
-  fijar(d.Ancho, {2, 1.2, 1.6});
-  fijar(d.YBase, {1, 0.2, 0});
-  fijar(d.YTalud, {5, 3.2, 1});
-  fijar(d.YFreático, {1, 0.2, 0});
-  fijar(d.PendienteBase, {0.75, 7.0 / 24.0, 0});
-  fijar(d.PesoUnitarioMedio, {2, 2, 2});
-  fijar(d.AlturaAguaSobreTalud, {0, 0, 0});
-  fijar(d.PresiónPoros, {0, 0.5, 1});
-  fijar(d.CohesiónBase, {2, 2, 2});
-  fijar(d.TanFricciónBase, {0.5, 0.5, 0.5});
   const double phi = std::atan(0.5) * 45.0 / std::atan(1.0);
-  fijar(d.FricciónBase, {phi, phi, phi});
+  pruebas::Fijar(p.TablaDovelas.FricciónBase, {phi, phi, phi});
 }
 
 // The textbook form of the same sum, slice by slice: (c b + ((1 + kv) W - u b) tan phi) / m_a with
@@ -462,6 +434,14 @@ const char* const kDesembalse = "Está analizando desembalse rápido en presas d
 TEST(BishopPuertas, PalabraPorPalabra) {
   const std::string ojo = "OJO PELAO con este mensaje:";
   const CasoPuerta casos[] = {
+      {"todas abiertas",
+       [](Proyecto&) {},
+       "NN",
+       {Preg(kDesembalse, false),
+        Preg("¿Es primera vez que está haciendo el cálculo o modificó las características "
+             "geométricas o geomecánicas del problema o niveles freáticos?",
+             false),
+        Msj("", kFin)}},
       {"sin tipo",
        [](Proyecto& p) { p.TipoDeAnálisis = ""; },
        "",
@@ -566,20 +546,6 @@ TEST(BishopPuertas, PalabraPorPalabra) {
               c.esperado.back().texto == kFin || std::string(c.nombre) == "recalcular no")
         << c.nombre;
   }
-}
-
-TEST(BishopPuertas, LaPreguntaDeLasEtapasYElTranscritoCompleto) {
-  Proyecto p;
-  TresDovelas(p);
-  InterfazGuionada ui("NN");
-  MétodoBishop(p, ui);
-  EXPECT_EQ(Líneas(ui.Transcripción()),
-            Líneas(std::vector<Apunte>{
-                Preg(kDesembalse, false),
-                Preg("¿Es primera vez que está haciendo el cálculo o modificó las características "
-                     "geométricas o geomecánicas del problema o niveles freáticos?",
-                     false),
-                Msj("", kFin)}));
 }
 
 // --- With the real stages ------------------------------------------------------------------------

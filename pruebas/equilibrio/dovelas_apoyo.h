@@ -7,20 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "apoyo/proyectos.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra::pruebas {
-
-using Puntos = std::vector<std::pair<double, double>>;
-
-inline void PonerLínea(TablaXY& t, Entero& n, const Puntos& puntos) {
-  n = static_cast<Entero>(puntos.size());
-  t.Redimensionar(n);
-  for (long k = 1; k <= n; ++k) {
-    t.X[k] = puntos[static_cast<std::size_t>(k - 1)].first;
-    t.Y[k] = puntos[static_cast<std::size_t>(k - 1)].second;
-  }
-}
 
 struct DatosEstrato {
   double cohesión = 0, fricción = 0, húmedo = 1.8, saturado = 2.0;
@@ -51,18 +41,6 @@ inline void AñadirEstrato(Proyecto& p, const Puntos& línea, const DatosEstrato
   p.Estrato.CoeficienteConsolidaciónVertical[s] = e.cv;
   p.Estrato.TiempoDeConstrucción[s] = e.tiempo;
   p.EstratosCaracterizados = true;
-}
-
-inline void PonerTramos(Proyecto& p, const std::vector<std::tuple<int, int, std::string>>& tramos) {
-  p.NúmeroTramosFalla = static_cast<Entero>(tramos.size());
-  p.TramoFalla.Redimensionar(p.NúmeroTramosFalla);
-  for (long t = 1; t <= p.NúmeroTramosFalla; ++t) {
-    const auto& [a, b, letra] = tramos[static_cast<std::size_t>(t - 1)];
-    p.TramoFalla.PuntoInicial[t] = a;
-    p.TramoFalla.PuntoFinal[t] = b;
-    p.TramoFalla.TipoUnión[t] = letra;
-  }
-  p.GeometríaFallaDefinida = true;
 }
 
 // A soil project for limit equilibrium with Fellenius chosen and the constants given.

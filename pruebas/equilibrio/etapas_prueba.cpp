@@ -11,11 +11,7 @@
 namespace lomaterra {
 namespace {
 
-using pruebas::AñadirEstrato;
-using pruebas::DatosEstrato;
-using pruebas::PonerLínea;
-using pruebas::PonerTramos;
-using pruebas::ProyectoDeSuelo;
+using namespace pruebas;
 
 constexpr double kPi = 3.14159265358979323846;
 

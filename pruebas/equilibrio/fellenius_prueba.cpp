@@ -13,10 +13,7 @@
 namespace lomaterra {
 namespace {
 
-using pruebas::AñadirEstrato;
-using pruebas::PonerLínea;
-using pruebas::PonerTramos;
-using pruebas::ProyectoDeSuelo;
+using namespace pruebas;
 
 const std::string kDesembalse = "Está analizando desembalse rápido en presas de tierra?";
 const std::string kPrimeraVez =
@@ -118,18 +115,13 @@ class TresDovelas : public ::testing::Test {
     }
     p.Trabajo.XMáximaFalla = 9, p.Trabajo.XMínimaFalla = 0;
     p.Trabajo.YPrimerPuntoFalla = 6, p.Trabajo.YÚltimoPuntoFalla = 0;
-    p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = true;
-    p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = true;
+    pruebas::EtapasHechas(p);
   }
   void Cargas() {
     // A uniform load over 6..9 (slice 1) and a point load at x = 4 (slice 2), the crack with its
     // water 1 m deep (push 0.5·1² = 0.5), kh = 0.1.
-    p.NúmeroCargasUniformes = 1, p.CargasUniformesDadas = true;
-    p.CargaUniforme.Redimensionar(1);
-    p.CargaUniforme.xo[1] = 6, p.CargaUniforme.xf[1] = 9, p.CargaUniforme.qx[1] = 0.5, p.CargaUniforme.qy[1] = 2;
-    p.NúmeroCargasPuntuales = 1, p.CargasPuntualesDadas = true;
-    p.CargaPuntual.Redimensionar(1);
-    p.CargaPuntual.Xpuntual[1] = 4, p.CargaPuntual.Ypuntual[1] = 7, p.CargaPuntual.Px[1] = 1, p.CargaPuntual.Py[1] = 3;
+    pruebas::CargasUniformes(p, {{6, 9, 0.5, 2}});
+    pruebas::CargasPuntuales(p, {{4, 7, 1, 3}});
     auto& g = p.GrietaTracción;
     g.AbscisaPrimerPunto = 9, g.OrdenadaPrimerPunto = 9, g.AbscisaSegundoPunto = 9, g.OrdenadaSegundoPunto = 6;
     g.OrdenadaNF = 7, g.EmpujeGrieta = 0.5;
@@ -258,13 +250,8 @@ TEST(MomentoDeCargas, SobreElCentroDelArcoOSobreElPuntoDeReferencia) {
   d.BordeX[1] = 6, d.BordeX[2] = 3;
   for (Tabla<double>* c : {&d.XMedio, &d.Ancho, &d.YTalud, &d.PendienteTalud}) c->Redimensionar(1);
   d.XMedio[1] = 4.5, d.Ancho[1] = 3, d.YTalud[1] = 8, d.PendienteTalud[1] = 0.2;
-  p.NúmeroCargasUniformes = 1, p.CargasUniformesDadas = true;
-  p.CargaUniforme.Redimensionar(1);
-  p.CargaUniforme.xo[1] = 3, p.CargaUniforme.xf[1] = 6, p.CargaUniforme.qx[1] = 0.5, p.CargaUniforme.qy[1] = 2;
-  p.NúmeroCargasPuntuales = 2, p.CargasPuntualesDadas = true;
-  p.CargaPuntual.Redimensionar(2);
-  p.CargaPuntual.Xpuntual[1] = 5, p.CargaPuntual.Ypuntual[1] = 8.5, p.CargaPuntual.Px[1] = 1, p.CargaPuntual.Py[1] = 3;
-  p.CargaPuntual.Xpuntual[2] = 7, p.CargaPuntual.Px[2] = 50, p.CargaPuntual.Py[2] = 50;
+  pruebas::CargasUniformes(p, {{3, 6, 0.5, 2}});
+  pruebas::CargasPuntuales(p, {{5, 8.5, 1, 3}, {7, 0, 50, 50}});
   p.GrietaTracción.OrdenadaSegundoPunto = 10, p.GrietaTracción.OrdenadaNF = 13, p.GrietaTracción.EmpujeGrieta = 4.5;
 
   // Circular, centre (2, 20); the point given is not used:
@@ -355,8 +342,7 @@ TEST(FelleniusCircular, ElSismoTomaSuBrazoDelDobleDeLaOrdenadaDelCentroMenosLaAl
   d.XMedio[1] = 6, d.YTalud[1] = 6, d.YBase[1] = 2, d.PesoUnitarioMedio[1] = 2, d.PresiónPoros[1] = 1;
   d.CohesiónBase[1] = 1, d.TanFricciónBase[1] = 0.5, d.Ancho[1] = 2;
   p.Trabajo.YPrimerPuntoFalla = 10, p.Trabajo.YÚltimoPuntoFalla = 0;
-  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = true;
-  p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = true;
+  pruebas::EtapasHechas(p);
   InterfazGuionada ui("NN");
   ASSERT_EQ(EjecutarComando(MétodoFellenius, p, ui), FinDeComando::Normal);
   EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[1], 6.73 / (25.6 + 105.6 + 20.0 / 3), 1e-12);

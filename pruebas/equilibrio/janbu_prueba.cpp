@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "apoyo/proyectos.h"
 #include "equilibrio/acads_apoyo.h"
 #include "equilibrio/janbu.h"
 #include "pantallas/form17.h"
@@ -25,10 +26,7 @@ const char* const kEtapas =
 const char* const kSolución = "¿Considera que es la solución?";
 const char* const kSalir = "¿Desea salir del cálculo?";
 
-void Fijar(Tabla<double>& t, std::vector<double> v) {
-  t.Redimensionar(static_cast<long>(v.size()));
-  for (std::size_t i = 0; i < v.size(); ++i) t[static_cast<long>(i) + 1] = v[i];
-}
+using pruebas::Fijar;
 
 // Three slices, edges at x = 4, 2, 0.8, -0.8:
 //   tan a = 0.75, 7/24, 0 (cos^2 a = 0.64, 0.9216, 1); b = 2, 1.2, 1.6; h = 4, 3, 1; unit weight 2
@@ -38,54 +36,19 @@ void Fijar(Tabla<double>& t, std::vector<double> v) {
 //   a uniform load qx = 0.2, qy = 0.5 from x = 2.5 to 4.5 (over slice 1)
 //   a point load Px = 0.4, Py = 1 at (1.5, 3.3) (in slice 2)
 void TresDovelas(Proyecto& p) {
-  p.TipoDeAnálisis = "T";
-  p.TipoDeMaterial = "S";
-  p.ParámetrosInicialesDados = true;
+  pruebas::TresDovelasDeSuelo(p, 4);
   auto& pi = p.ParámetrosIniciales;
-  pi.MétodoDeCálculo = 4;
-  pi.FSInicial = 1;
   pi.CoeficienteSísmicoHorizontal = 0.1;
   pi.CoeficienteSísmicoVertical = 0.05;
-  p.NúmeroTramosFalla = 1;
-  p.TramoFalla.Redimensionar(1);
-  p.TramoFalla.TipoUnión[1] = "L";
+  pruebas::UnTramo(p, "L");
   p.Trabajo.YPrimerPuntoFalla = 2;
   p.Trabajo.YÚltimoPuntoFalla = 0;
-  p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = p.EtapaGeometría = p.EtapaEstratos =
-      p.EtapaPoros = true;
-
   auto& d = p.TablaDovelas;
-  p.NúmeroBordes = 4;
-  Fijar(d.BordeX, {4, 2, 0.8, -0.8});
   Fijar(d.BordeYFalla, {2, 0.4, 0, 0});
   Fijar(d.BordeYTalud, {6, 3.4, 1.5, 0});
-  Fijar(d.XMedio, {3, 1.4, 0});
-  Fijar(d.Ancho, {2, 1.2, 1.6});
-  Fijar(d.YBase, {1, 0.2, 0});
-  Fijar(d.YTalud, {5, 3.2, 1});
-  Fijar(d.YFreático, {1, 0.2, 0});
-  Fijar(d.PendienteBase, {0.75, 7.0 / 24.0, 0});
   Fijar(d.PendienteTalud, {1.3, 1.9 / 1.2, 0.9375});
-  Fijar(d.PesoUnitarioMedio, {2, 2, 2});
-  Fijar(d.AlturaAguaSobreTalud, {0, 0, 0});
-  Fijar(d.PresiónPoros, {0, 0.5, 1});
-  Fijar(d.CohesiónBase, {2, 2, 2});
-  Fijar(d.TanFricciónBase, {0.5, 0.5, 0.5});
-
-  p.CargasUniformesDadas = true;
-  p.NúmeroCargasUniformes = 1;
-  p.CargaUniforme.Redimensionar(1);
-  p.CargaUniforme.xo[1] = 2.5;
-  p.CargaUniforme.xf[1] = 4.5;
-  p.CargaUniforme.qx[1] = 0.2;
-  p.CargaUniforme.qy[1] = 0.5;
-  p.CargasPuntualesDadas = true;
-  p.NúmeroCargasPuntuales = 1;
-  p.CargaPuntual.Redimensionar(1);
-  p.CargaPuntual.Xpuntual[1] = 1.5;
-  p.CargaPuntual.Ypuntual[1] = 3.3;
-  p.CargaPuntual.Px[1] = 0.4;
-  p.CargaPuntual.Py[1] = 1;
+  pruebas::CargasUniformes(p, {{2.5, 4.5, 0.2, 0.5}});
+  pruebas::CargasPuntuales(p, {{1.5, 3.3, 0.4, 1}});
 }
 
 std::vector<double> Historia(const Proyecto& p) {

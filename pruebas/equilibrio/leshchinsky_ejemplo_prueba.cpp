@@ -11,6 +11,7 @@
 #include <string>
 
 #include "apoyo/apoyo.h"
+#include "equilibrio/acads_apoyo.h"
 #include "equilibrio/leshchinsky.h"
 #include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
@@ -29,9 +30,7 @@ const char* const kArchivo = "leshchinsky_homogeneo.cod";
 // tips of the parameters screen suggest: µ1 = 40 between the two crossings, µ2 = 55 above the
 // crest, FS = 1 and a crest stress of −0.1 ton/m2, between −c/tanφ = −0.86 and 0.
 Proyecto LeshchinskyHomogéneo() {
-  Proyecto p;
-  p.TipoDeAnálisis = "T";
-  p.TipoDeMaterial = "S";
+  Proyecto p = pruebas::EjemploACADS(30, 1);
   p.InformaciónDada = true;
   p.Ventana.TextoProyecto =
       "Problema de referencia EX1(a) de ACADS: talud homogéneo de 10 m de altura, pendiente 2H:1V, "
@@ -40,60 +39,14 @@ Proyecto LeshchinskyHomogéneo() {
       "radio 28.2 m. Método de Leshchinsky y Huang.";
   p.InformaciónProyecto = {"K0+000", "K0+000", "15/01/2026", "Ing. Responsable",
                            "Lomaterra, proyecto de ejemplo"};
-  auto puntos = [](TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> l) {
-    n = static_cast<Entero>(l.size());
-    t.Redimensionar(n);
-    long i = 1;
-    for (auto [x, y] : l) {
-      t.X[i] = x;
-      t.Y[i] = y;
-      ++i;
-    }
-  };
-  puntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
-  puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.2407, 35}, {29.7, 25}});
-  p.NúmeroTramosFalla = 1;
-  p.TramoFalla.Redimensionar(1);
-  p.TramoFalla.PuntoInicial[1] = 1;
-  p.TramoFalla.PuntoFinal[1] = 2;
-  p.TramoFalla.TipoUnión[1] = "C";
-  p.GeometríaFallaDefinida = true;
-
-  p.NúmeroEstratos = 1;
+  p.CoordenadasFalla.X[1] = 51.2407;
   p.NúmeroEstratosCaracterizados = 1;
-  p.EstratosCaracterizados = true;
-  p.PuntosEstrato.Redimensionar(1);
-  p.PuntosEstrato[1] = 2;
-  p.XEstrato.Redimensionar(1, 2);
-  p.YEstrato.Redimensionar(1, 2);
-  p.XEstrato(1, 1) = 70;
-  p.YEstrato(1, 1) = 0;
-  p.XEstrato(1, 2) = 20;
-  p.YEstrato(1, 2) = 0;
-  p.Estrato.RedimensionarConservando(1);
-  p.Estrato.Cohesión[1] = 3.0 / 9.81;
-  p.Estrato.Fricción[1] = 19.6;
-  p.Estrato.PesoUnitarioHúmedo[1] = 20.0 / 9.81;
-  p.Estrato.PesoUnitarioSaturado[1] = 20.0 / 9.81;
-
   auto& pi = p.ParámetrosIniciales;
-  pi.MétodoDeCálculo = 1;
   pi.Multiplicador1 = 40;
   pi.Multiplicador2 = 55;
-  pi.FSInicial = 1;
   pi.EsfuerzoInicialCresta = -0.1;
-  pi.Radio = 28.2;
-  pi.NúmeroDovelas = 30;
-  p.ParámetrosInicialesDados = true;
-  p.NúmeroCargasUniformes = 0;
-  p.NúmeroCargasPuntuales = 0;
   CargarPanelCoordenadas(p, 1, 1);
   return p;
-}
-
-std::string Bytes(const std::string& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  return std::string((std::istreambuf_iterator<char>(f)), {});
 }
 
 TEST(LeshchinskyEjemplo, DISABLED_GenerarEjemplo) {
@@ -108,7 +61,7 @@ TEST(LeshchinskyEjemplo, ElArchivoEsElDeSuProyecto) {
   InterfazGuionada ui;
   ASSERT_TRUE(GuardarProyecto(p, copia, ui));
   ASSERT_TRUE(std::filesystem::exists(pruebas::RutaEjemplo(kArchivo)));
-  EXPECT_EQ(Bytes(copia), Bytes(pruebas::RutaEjemplo(kArchivo)));
+  EXPECT_EQ(pruebas::LeerArchivo(copia), pruebas::LeerArchivo(pruebas::RutaEjemplo(kArchivo)));
 }
 
 // The referee problem from its file, through the six stages: published factors of rigorous

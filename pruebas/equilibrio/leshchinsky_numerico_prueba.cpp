@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "apoyo/interfaz_espia.h"
+#include "apoyo/proyectos.h"
 #include "apoyo/talud_circular.h"
 #include "equilibrio/leshchinsky.h"
 #include "equilibrio/matrices.h"
@@ -227,20 +228,8 @@ struct JacobianoPrueba : SecciónPrueba {
     p.GrietaTracción.OrdenadaSegundoPunto = 34.0;
     p.GrietaTracción.OrdenadaNF = 34.6;
     p.GrietaTracción.EmpujeGrieta = 0.5 * 0.6 * 0.6;
-    p.NúmeroCargasUniformes = 1;
-    p.CargasUniformesDadas = true;
-    p.CargaUniforme.Redimensionar(1);
-    p.CargaUniforme.xo[1] = 40;
-    p.CargaUniforme.xf[1] = 48;
-    p.CargaUniforme.qx[1] = 0.8;
-    p.CargaUniforme.qy[1] = 1.5;
-    p.NúmeroCargasPuntuales = 1;
-    p.CargasPuntualesDadas = true;
-    p.CargaPuntual.Redimensionar(1);
-    p.CargaPuntual.Xpuntual[1] = d.XMedio[2];
-    p.CargaPuntual.Ypuntual[1] = d.YTalud[2];
-    p.CargaPuntual.Px[1] = 0.7;
-    p.CargaPuntual.Py[1] = 2.0;
+    pruebas::CargasUniformes(p, {{40, 48, 0.8, 1.5}});
+    pruebas::CargasPuntuales(p, {{d.XMedio[2], d.YTalud[2], 0.7, 2.0}});
     dv = LeerDatosVariacionales(p);
     fila.µ1 = 38;
     fila.µ2 = 57;
@@ -354,20 +343,8 @@ TEST_F(SecciónPrueba, PesoDeLaColumnaConAguaSobreElTaludYCargasEnSusDovelas) {
   const double alto = d.YTalud[6] - d.YBase[6];
   // A point load exactly on the edge between slices 2 and 3, one inside slice 5; a uniform load
   // over slices 1 and 2 only, one with xo above xf that falls on no slice.
-  p.NúmeroCargasPuntuales = 2;
-  p.CargasPuntualesDadas = true;
-  p.CargaPuntual.Redimensionar(2);
-  p.CargaPuntual.Xpuntual[1] = d.BordeX[3];
-  p.CargaPuntual.Px[1] = 1.0;
-  p.CargaPuntual.Xpuntual[2] = d.XMedio[5];
-  p.CargaPuntual.Px[2] = 1.0;
-  p.NúmeroCargasUniformes = 2;
-  p.CargasUniformesDadas = true;
-  p.CargaUniforme.Redimensionar(2);
-  p.CargaUniforme.xo[1] = d.XMedio[2] - 0.01;
-  p.CargaUniforme.xf[1] = 100;
-  p.CargaUniforme.xo[2] = 100;
-  p.CargaUniforme.xf[2] = 0;
+  pruebas::CargasPuntuales(p, {{d.BordeX[3], 0, 1.0, 0}, {d.XMedio[5], 0, 1.0, 0}});
+  pruebas::CargasUniformes(p, {{d.XMedio[2] - 0.01, 100, 0, 0}, {100, 0, 0, 0}});
 
   auto dv = LeerDatosVariacionales(p);
   EXPECT_NEAR(dv.ge[6], (alto * dv.gm[6] + 0.5) / (alto + 0.5), 1e-12);

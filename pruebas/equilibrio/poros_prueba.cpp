@@ -10,10 +10,7 @@
 namespace lomaterra {
 namespace {
 
-using pruebas::AñadirEstrato;
-using pruebas::DatosEstrato;
-using pruebas::PonerLínea;
-using pruebas::ProyectoDeSuelo;
+using namespace pruebas;
 
 const char* const kPregunta =
     "Ya existen presión de poros. ¿Desea estimarlas a partir de las coordenadas del nivel freático?";

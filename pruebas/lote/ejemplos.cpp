@@ -6,23 +6,14 @@
 //   prueba_lote --gtest_also_run_disabled_tests --gtest_filter='*GenerarEjemplos*'
 #include "lote/ejemplos.h"
 
+#include "apoyo/proyectos.h"
+
 #include <initializer_list>
 #include <utility>
 
 namespace lomaterra::pruebas {
 
 namespace {
-
-void Puntos(TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> puntos) {
-  n = static_cast<Entero>(puntos.size());
-  t.Redimensionar(n);
-  long i = 1;
-  for (auto [x, y] : puntos) {
-    t.X[i] = x;
-    t.Y[i] = y;
-    ++i;
-  }
-}
 
 struct Suelo {
   double c, fi, húmedo, saturado;
@@ -62,25 +53,6 @@ void Estratos(Proyecto& p, const std::vector<Suelo>& suelos) {
   }
 }
 
-// Stretches of the failure surface: {first point, last point, letter}.
-struct Tramo {
-  double inicial, final;
-  const char* tipo;
-};
-
-void Tramos(Proyecto& p, std::initializer_list<Tramo> tramos) {
-  p.NúmeroTramosFalla = static_cast<Entero>(tramos.size());
-  p.TramoFalla.Redimensionar(p.NúmeroTramosFalla);
-  long i = 1;
-  for (const Tramo& t : tramos) {
-    p.TramoFalla.PuntoInicial[i] = t.inicial;
-    p.TramoFalla.PuntoFinal[i] = t.final;
-    p.TramoFalla.TipoUnión[i] = t.tipo;
-    ++i;
-  }
-  p.GeometríaFallaDefinida = true;
-}
-
 // What every sample shares: a soil slope for limit equilibrium by Fellenius.
 Proyecto Base(const std::string& descripción, const std::string& progresiva) {
   Proyecto p;
@@ -89,7 +61,7 @@ Proyecto Base(const std::string& descripción, const std::string& progresiva) {
   p.InformaciónDada = true;
   p.Ventana.TextoProyecto = descripción;
   p.InformaciónProyecto = {progresiva, progresiva, "15/01/2026", "Ing. Responsable", "Lomaterra, proyecto de ejemplo"};
-  Puntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
+  PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
   auto& pi = p.ParámetrosIniciales;
   pi.MétodoDeCálculo = 3;
   pi.FSInicial = 1.5;
@@ -114,8 +86,8 @@ Proyecto TaludHomogéneo() {
   Proyecto p = Base("Talud homogéneo de 10 m de altura, pendiente 2H:1V, superficie de falla circular. "
                     "Suelo arcilloso-arenoso seco. Método de Fellenius.",
                     "K0+100");
-  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {15, 10}});
-  Tramos(p, {{1, 2, "C"}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {15, 10}});
+  PonerTramos(p, {{1, 2, "C"}});
   p.ParámetrosIniciales.Radio = 25;
   Estratos(p, {{2.5, 25, 1.8, 2.0, 0, 0, 0, 0, {{60, -10}, {0, -10}}}});
   return Terminar(p);
@@ -130,9 +102,9 @@ Proyecto TaludEstratificado() {
                     "grieta de tracción con agua, sobrecarga uniforme y carga puntual en la corona. "
                     "Superficie de falla poligonal. Método de Fellenius.",
                     "K0+250");
-  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 17}, {38, 12}, {28, 6}, {18, 6.5}, {12, 10}});
-  Tramos(p, {{1, 2, "L"}, {2, 3, "L"}, {3, 4, "L"}, {4, 5, "L"}});
-  Puntos(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{46, 18.5}, {38, 15}, {24, 11}, {20, 9.8}, {0, 9.5}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 17}, {38, 12}, {28, 6}, {18, 6.5}, {12, 10}});
+  PonerTramos(p, {{1, 2, "L"}, {2, 3, "L"}, {3, 4, "L"}, {4, 5, "L"}});
+  PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{46, 18.5}, {38, 15}, {24, 11}, {20, 9.8}, {0, 9.5}});
   Estratos(p, {
                   {1.0, 30, 1.9, 2.05, 1, 0.3, 0, 0, {{60, 14}, {28, 14}}},
                   {2.5, 22, 1.8, 1.95, 0, 0, 0, 0, {{60, 7}, {0, 7}}},
@@ -167,8 +139,8 @@ Proyecto FallaMixtaC() {
   Proyecto p = Base("Talud homogéneo con superficie de falla mixta: tramo recto, arco circular entre los puntos 2 y 3, "
                     "tramo recto de salida al pie. Método de Fellenius.",
                     "K0+400");
-  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 20}, {34, 7}, {24, 7}, {16, 10}});
-  Tramos(p, {{1, 2, "L"}, {2, 3, "C"}, {3, 4, "L"}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 20}, {34, 7}, {24, 7}, {16, 10}});
+  PonerTramos(p, {{1, 2, "L"}, {2, 3, "C"}, {3, 4, "L"}});
   Estratos(p, {{2.0, 27, 1.85, 2.0, 0, 0, 0, 0, {{60, -10}, {0, -10}}}});
   return Terminar(p);
 }
@@ -179,9 +151,9 @@ Proyecto FallaPolinómica() {
   Proyecto p = Base("Talud homogéneo con nivel freático y superficie de falla polinómica por los cuatro primeros puntos, "
                     "con salida recta al pie. Método de Fellenius.",
                     "K0+550");
-  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 20}, {38, 12.5}, {28, 8.5}, {18, 8.8}, {12, 10}});
-  Tramos(p, {{1, 4, "P"}, {4, 5, "L"}});
-  Puntos(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{60, 15}, {40, 14}, {22, 10.3}, {20, 9.9}, {0, 9.6}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 20}, {38, 12.5}, {28, 8.5}, {18, 8.8}, {12, 10}});
+  PonerTramos(p, {{1, 4, "P"}, {4, 5, "L"}});
+  PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{60, 15}, {40, 14}, {22, 10.3}, {20, 9.9}, {0, 9.6}});
   Estratos(p, {{2.0, 26, 1.85, 2.0, 0, 0, 0, 0, {{60, -10}, {0, -10}}}});
   return Terminar(p);
 }
@@ -192,9 +164,9 @@ Proyecto BishopRadioVariable() {
   Proyecto p = Base("Talud de arena limpia de 10 m de altura, pendiente 2H:1V, seco. Método de Bishop con "
                     "búsqueda del radio de menor factor de seguridad a partir de 28.2 m.",
                     "K0+150");
-  Puntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
-  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
-  Tramos(p, {{1, 2, "C"}});
+  PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
+  PonerTramos(p, {{1, 2, "C"}});
   Estratos(p, {{0, 34, 1.9, 2.05, 0, 0, 0, 0, {{70, 0}, {20, 0}}}});
   auto& pi = p.ParámetrosIniciales;
   pi.MétodoDeCálculo = 2;
@@ -214,9 +186,9 @@ Proyecto JanbuACADS() {
                     "fi' = 19.6°, peso unitario 20 kN/m3, sin agua. Método de Janbu sobre el círculo crítico "
                     "publicado (centro 29.7, 53.2; radio 28.2 m).",
                     "EX1(a)");
-  Puntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
-  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
-  Tramos(p, {{1, 2, "C"}});
+  PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
+  PonerTramos(p, {{1, 2, "C"}});
   Estratos(p, {{3 / 9.81, 19.6, 20 / 9.81, 20 / 9.81, 0, 0, 0, 0, {{70, 0}, {20, 0}}}});
   auto& pi = p.ParámetrosIniciales;
   pi.MétodoDeCálculo = 4;

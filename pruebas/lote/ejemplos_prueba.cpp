@@ -13,11 +13,6 @@
 namespace lomaterra::pruebas {
 namespace {
 
-std::string Bytes(const std::string& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  return std::string((std::istreambuf_iterator<char>(f)), {});
-}
-
 // Writes the samples into ejemplos/ (run by hand after a change).
 TEST(Ejemplos, DISABLED_GenerarEjemplos) {
   for (const Ejemplo& e : Ejemplos()) {
@@ -35,7 +30,7 @@ TEST(Ejemplos, CadaArchivoEsElDeSuProyecto) {
     Proyecto p = e.construir();
     InterfazGuionada ui;
     ASSERT_TRUE(GuardarProyecto(p, carpeta + "/" + e.archivo, ui));
-    EXPECT_EQ(Bytes(carpeta + "/" + e.archivo), Bytes(RutaEjemplo(e.archivo)));
+    EXPECT_EQ(pruebas::LeerArchivo(carpeta + "/" + e.archivo), pruebas::LeerArchivo(RutaEjemplo(e.archivo)));
 
     Proyecto q;
     EXPECT_TRUE(LeerProyecto(q, RutaEjemplo(e.archivo), ui));

@@ -26,11 +26,6 @@ struct Corrida {
   std::vector<std::string> líneas;  // of the output
 };
 
-std::string Leer(const std::string& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  return std::string((std::istreambuf_iterator<char>(f)), {});
-}
-
 std::string Citar(const std::string& s) {
   std::string r = "'";
   for (char c : s) r += c == '\'' ? std::string("'\\''") : std::string(1, c);
@@ -48,8 +43,8 @@ Corrida Lote(const std::vector<std::string>& argumentos) {
   const int r = std::system(orden.c_str());
   Corrida c;
   c.estado = WIFEXITED(r) ? WEXITSTATUS(r) : -1;
-  c.salida = Leer(salida);
-  c.errores = Leer(errores);
+  c.salida = pruebas::LeerArchivo(salida);
+  c.errores = pruebas::LeerArchivo(errores);
   std::istringstream s(c.salida);
   for (std::string l; std::getline(s, l);) c.líneas.push_back(l);
   return c;
@@ -130,7 +125,7 @@ TEST_F(Lotes, ProyectoQueNoSePuedeLeer) {
   EXPECT_NE(falta.errores.find("no existe el archivo de proyecto"), std::string::npos);
 
   // A file that ends early: the reader's own box is printed, the commands do not run.
-  const std::string entero = Leer(homogéneo);
+  const std::string entero = pruebas::LeerArchivo(homogéneo);
   const std::string truncado = carpeta + "/truncado.cod";
   std::ofstream(truncado, std::ios::binary) << entero.substr(0, entero.size() / 2);
   const Corrida t = Lote({truncado, comando});
@@ -156,7 +151,7 @@ TEST_F(Lotes, PantallaAbiertaSeCierraSinCambiosYSeGuarda) {
   EXPECT_EQ(r.líneas[0], "[pantalla] Constantes de cálculo y grieta de tracción");
   EXPECT_EQ(r.líneas[1], "--- Resumen ---");
   // The screen closed with no change: the copy is the sample byte for byte.
-  EXPECT_EQ(Leer(copia), Leer(homogéneo));
+  EXPECT_EQ(pruebas::LeerArchivo(copia), pruebas::LeerArchivo(homogéneo));
 }
 
 TEST_F(Lotes, GuardadoRechazadoSaleConUno) {
@@ -165,7 +160,7 @@ TEST_F(Lotes, GuardadoRechazadoSaleConUno) {
   Proyecto p = TaludHomogéneo();
   p.TipoDeMaterial = "X";
   const std::string ruta = Guardar(p, "sin_material.cod");
-  std::string texto = Leer(ruta);
+  std::string texto = pruebas::LeerArchivo(ruta);
   texto.replace(texto.find("\"X\""), 3, "\"\"");
   std::ofstream(ruta, std::ios::binary) << texto;
   const Corrida r = Lote({ruta, "MenúArchivoConstantes", "--guardar", carpeta + "/otro.cod"});
@@ -229,7 +224,7 @@ TEST_F(LoteFellenius, JsonVálidoConLaTablaDeDovelas) {
   ASSERT_EQ(r.estado, 0) << r.errores;
   ValorJson v;
   std::string error;
-  ASSERT_TRUE(LeerJson(Leer(json), v, error)) << error;
+  ASSERT_TRUE(LeerJson(pruebas::LeerArchivo(json), v, error)) << error;
   ASSERT_EQ(v.tipo, ValorJson::Objeto);
   const ValorJson* fs = v.Campo("FactorDeSeguridad");
   ASSERT_TRUE(fs && fs->tipo == ValorJson::Número);

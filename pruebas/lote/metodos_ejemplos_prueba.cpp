@@ -12,11 +12,6 @@
 namespace lomaterra::pruebas {
 namespace {
 
-std::string Leer(const std::string& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  return std::string((std::istreambuf_iterator<char>(f)), {});
-}
-
 ValorJson Correr(const std::string& ejemplo, const std::string& comando) {
   const std::string json = CarpetaTemporal() + "/salida.json";
   const std::string orden = std::string("'") + LOMATERRA_LOTE + "' '" + RutaEjemplo(ejemplo) + "' " + comando +
@@ -25,7 +20,7 @@ ValorJson Correr(const std::string& ejemplo, const std::string& comando) {
   EXPECT_TRUE(WIFEXITED(r) && WEXITSTATUS(r) == 0) << orden;
   ValorJson v;
   std::string error;
-  EXPECT_TRUE(LeerJson(Leer(json), v, error)) << error;
+  EXPECT_TRUE(LeerJson(pruebas::LeerArchivo(json), v, error)) << error;
   return v;
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "apoyo/proyectos.h"
 #include "pantallas/constantes.h"
 #include "pantallas/constantes_elementos.h"
 #include "proyecto/interfaz_guionada.h"
@@ -17,33 +18,16 @@ Proyecto ProyectoDeArco() {
   Proyecto p;
   p.TipoDeAnálisis = "T";
   p.TipoDeMaterial = "S";
-  p.CoordenadasTalud.Redimensionar(3);
-  p.CoordenadasTalud.X[1] = 100; p.CoordenadasTalud.Y[1] = 30;
-  p.CoordenadasTalud.X[2] = 70;  p.CoordenadasTalud.Y[2] = 30;
-  p.CoordenadasTalud.X[3] = 40;  p.CoordenadasTalud.Y[3] = 10;
-  p.NúmeroPuntosTalud = 3;
-  p.CoordenadasFalla.Redimensionar(2);
-  p.CoordenadasFalla.X[1] = 20; p.CoordenadasFalla.Y[1] = 6;
-  p.CoordenadasFalla.X[2] = 10; p.CoordenadasFalla.Y[2] = 0;
-  p.NúmeroPuntosFalla = 2;
-  p.TramoFalla.Redimensionar(1);
-  p.TramoFalla.PuntoInicial[1] = 1; p.TramoFalla.PuntoFinal[1] = 2; p.TramoFalla.TipoUnión[1] = "C";
-  p.NúmeroTramosFalla = 1;
-  p.GeometríaFallaDefinida = true;
+  pruebas::PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{100, 30}, {70, 30}, {40, 10}});
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{20, 6}, {10, 0}});
+  pruebas::PonerTramos(p, {{1, 2, "C"}});
   return p;
 }
 
 // The surface turned into two straight segments through three points.
 void HacerPoligonal(Proyecto& p) {
-  p.CoordenadasFalla.Redimensionar(3);
-  p.CoordenadasFalla.X[1] = 20; p.CoordenadasFalla.Y[1] = 6;
-  p.CoordenadasFalla.X[2] = 15; p.CoordenadasFalla.Y[2] = 1;
-  p.CoordenadasFalla.X[3] = 10; p.CoordenadasFalla.Y[3] = 0;
-  p.NúmeroPuntosFalla = 3;
-  p.TramoFalla.Redimensionar(2);
-  p.TramoFalla.PuntoInicial[1] = 1; p.TramoFalla.PuntoFinal[1] = 2; p.TramoFalla.TipoUnión[1] = "L";
-  p.TramoFalla.PuntoInicial[2] = 2; p.TramoFalla.PuntoFinal[2] = 3; p.TramoFalla.TipoUnión[2] = "L";
-  p.NúmeroTramosFalla = 2;
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{20, 6}, {15, 1}, {10, 0}});
+  pruebas::PonerTramos(p, {{1, 2, "L"}, {2, 3, "L"}});
 }
 
 class Constantes : public ::testing::Test {

@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "apoyo/apoyo.h"
+#include "apoyo/proyectos.h"
 #include "proyecto/archivo.h"
 #include "proyecto/interfaz_guionada.h"
 
@@ -16,11 +17,6 @@ namespace lomaterra {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string LeerBytes(const std::string& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  return std::string((std::istreambuf_iterator<char>(f)), {});
-}
 
 void EscribirBytes(const std::string& ruta, const std::string& bytes) {
   std::ofstream f(ruta, std::ios::binary);
@@ -40,13 +36,6 @@ std::vector<std::string> Líneas(const std::string& bytes) {
   return r;
 }
 
-void XY(TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> puntos) {
-  n = static_cast<Entero>(puntos.size());
-  t.Redimensionar(n);
-  long i = 1;
-  for (auto [x, y] : puntos) { t.X[i] = x; t.Y[i] = y; ++i; }
-}
-
 // A layered soil slope with every part of the format that a soil project uses.
 Proyecto ProyectoSuelo(bool conResultados) {
   Proyecto p;
@@ -60,12 +49,12 @@ Proyecto ProyectoSuelo(bool conResultados) {
   pi.Radio = 26.5; pi.ReferenciaMomentoX = 0; pi.ReferenciaMomentoY = 0;
   pi.CoeficienteSísmicoHorizontal = 0.15; pi.CoeficienteSísmicoVertical = 0.05; pi.NúmeroDovelas = 12;
   pi.VaríaRadio = true;
-  XY(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
-  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {15, 10}});
+  pruebas::PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {15, 10}});
   p.NúmeroTramosFalla = 1;
   p.TramoFalla.Redimensionar(1);
   p.TramoFalla.PuntoInicial[1] = 1; p.TramoFalla.PuntoFinal[1] = 2; p.TramoFalla.TipoUnión[1] = "C";
-  XY(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{60, 16}, {30, 12.5}, {0, 9.75}});
+  pruebas::PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{60, 16}, {30, 12.5}, {0, 9.75}});
   p.NúmeroEstratos = 2;
   p.NúmeroEstratosCaracterizados = 2;
   p.PuntosEstrato.Redimensionar(2);
@@ -169,33 +158,40 @@ void IgualesXY(const TablaXY& a, const TablaXY& b, long n, const char* qué) {
   }
 }
 
-template <typename T>
-void Iguales(const Tabla<T>& a, const Tabla<T>& b, long n, const char* qué) {
-  for (long i = 1; i <= n; ++i) EXPECT_EQ(a.Leer(i), b.Leer(i)) << qué << " fila " << i;
+// The same named members of two records; `k` in the message is the place in the list.
+template <typename S, typename M>
+void Campos(const S& a, const S& b, std::initializer_list<M S::*> campos) {
+  int k = 0;
+  for (auto c : campos) EXPECT_EQ(a.*c, b.*c) << "campo " << k++;
+}
+
+// The same columns of two records of tables, rows 1..n.
+template <typename S, typename T>
+void Columnas(const S& a, const S& b, long n, std::initializer_list<Tabla<T> S::*> columnas) {
+  int k = 0;
+  for (auto c : columnas) {
+    for (long i = 1; i <= n; ++i) EXPECT_EQ((a.*c).Leer(i), (b.*c).Leer(i)) << "columna " << k << " fila " << i;
+    ++k;
+  }
 }
 
 // Every table and scalar that the file carries for a "T" project.
 void CompararProyectos(const Proyecto& a, const Proyecto& b) {
+  using I = InformaciónDelProyecto;
+  using PI = TablaParámetrosIniciales;
+  using E = TablaEstrato;
+  using D = TablaDeDovelas;
   EXPECT_EQ(a.Ventana.TextoProyecto, b.Ventana.TextoProyecto);
-  EXPECT_EQ(a.InformaciónProyecto.ProgresivaInicial, b.InformaciónProyecto.ProgresivaInicial);
-  EXPECT_EQ(a.InformaciónProyecto.ProgresivaFinal, b.InformaciónProyecto.ProgresivaFinal);
-  EXPECT_EQ(a.InformaciónProyecto.FechaProyecto, b.InformaciónProyecto.FechaProyecto);
-  EXPECT_EQ(a.InformaciónProyecto.IngResponsable, b.InformaciónProyecto.IngResponsable);
-  EXPECT_EQ(a.InformaciónProyecto.Empresa, b.InformaciónProyecto.Empresa);
+  Campos<I, std::string>(a.InformaciónProyecto, b.InformaciónProyecto,
+                         {&I::ProgresivaInicial, &I::ProgresivaFinal, &I::FechaProyecto, &I::IngResponsable, &I::Empresa});
   EXPECT_EQ(a.TipoDeAnálisis, b.TipoDeAnálisis);
   EXPECT_EQ(a.TipoDeMaterial, b.TipoDeMaterial);
   EXPECT_EQ(a.Sísmico.CálculoSísmicoHecho, b.Sísmico.CálculoSísmicoHecho);
   const auto &pa = a.ParámetrosIniciales, &pb = b.ParámetrosIniciales;
   EXPECT_EQ(pa.UsaParámetrosInstantáneos, pb.UsaParámetrosInstantáneos);
   EXPECT_EQ(pa.MétodoDeCálculo, pb.MétodoDeCálculo);
-  EXPECT_EQ(pa.Multiplicador1, pb.Multiplicador1);
-  EXPECT_EQ(pa.Multiplicador2, pb.Multiplicador2);
-  EXPECT_EQ(pa.FSInicial, pb.FSInicial);
-  EXPECT_EQ(pa.EsfuerzoInicialCresta, pb.EsfuerzoInicialCresta);
-  EXPECT_EQ(pa.Radio, pb.Radio);
-  EXPECT_EQ(pa.CoeficienteSísmicoHorizontal, pb.CoeficienteSísmicoHorizontal);
-  EXPECT_EQ(pa.CoeficienteSísmicoVertical, pb.CoeficienteSísmicoVertical);
-  EXPECT_EQ(pa.NúmeroDovelas, pb.NúmeroDovelas);
+  Campos<PI, double>(pa, pb, {&PI::Multiplicador1, &PI::Multiplicador2, &PI::FSInicial, &PI::EsfuerzoInicialCresta, &PI::Radio,
+                              &PI::CoeficienteSísmicoHorizontal, &PI::CoeficienteSísmicoVertical, &PI::NúmeroDovelas});
   if (pa.UsaParámetrosInstantáneos) {
     EXPECT_EQ(pa.ParámetrosInstantáneos, pb.ParámetrosInstantáneos);
   }
@@ -207,84 +203,64 @@ void CompararProyectos(const Proyecto& a, const Proyecto& b) {
   EXPECT_EQ(a.NúmeroPuntosFalla, b.NúmeroPuntosFalla);
   IgualesXY(a.CoordenadasFalla, b.CoordenadasFalla, a.NúmeroPuntosFalla, "falla");
   EXPECT_EQ(a.NúmeroTramosFalla, b.NúmeroTramosFalla);
-  Iguales(a.TramoFalla.PuntoInicial, b.TramoFalla.PuntoInicial, a.NúmeroTramosFalla, "PuntoInicial");
-  Iguales(a.TramoFalla.PuntoFinal, b.TramoFalla.PuntoFinal, a.NúmeroTramosFalla, "PuntoFinal");
-  Iguales(a.TramoFalla.TipoUnión, b.TramoFalla.TipoUnión, a.NúmeroTramosFalla, "TipoUnión");
+  Columnas<TablaTramoFalla, double>(a.TramoFalla, b.TramoFalla, a.NúmeroTramosFalla,
+                                    {&TablaTramoFalla::PuntoInicial, &TablaTramoFalla::PuntoFinal});
+  Columnas<TablaTramoFalla, std::string>(a.TramoFalla, b.TramoFalla, a.NúmeroTramosFalla, {&TablaTramoFalla::TipoUnión});
   EXPECT_EQ(a.NúmeroPuntosFreático, b.NúmeroPuntosFreático);
   IgualesXY(a.CoordenadasFreático, b.CoordenadasFreático, a.NúmeroPuntosFreático, "freático");
   EXPECT_EQ(a.NúmeroEstratos, b.NúmeroEstratos);
   EXPECT_EQ(a.NúmeroEstratosCaracterizados, b.NúmeroEstratosCaracterizados);
   const long ne = a.NúmeroEstratos;
-  Iguales(a.PuntosEstrato, b.PuntosEstrato, ne, "PuntosEstrato");
-  for (long s = 1; s <= ne; ++s)
+  for (long s = 1; s <= ne; ++s) {
+    EXPECT_EQ(a.PuntosEstrato.Leer(s), b.PuntosEstrato.Leer(s)) << s;
     for (long j = 1; j <= a.PuntosEstrato.Leer(s); ++j) {
       EXPECT_EQ(a.XEstrato.Leer(s, j), b.XEstrato.Leer(s, j)) << s << "," << j;
       EXPECT_EQ(a.YEstrato.Leer(s, j), b.YEstrato.Leer(s, j)) << s << "," << j;
     }
+  }
   const auto &ea = a.Estrato, &eb = b.Estrato;
-  Iguales(ea.PesoUnitarioHúmedo, eb.PesoUnitarioHúmedo, ne, "PesoUnitarioHúmedo");
-  Iguales(ea.PesoUnitarioSaturado, eb.PesoUnitarioSaturado, ne, "PesoUnitarioSaturado");
+  Columnas<E, double>(ea, eb, ne, {&E::PesoUnitarioHúmedo, &E::PesoUnitarioSaturado});
   if (a.TipoDeMaterial == "S") {
-    Iguales(ea.Cohesión, eb.Cohesión, ne, "Cohesión");
-    Iguales(ea.Fricción, eb.Fricción, ne, "Fricción");
-    Iguales(ea.TipoEstrato, eb.TipoEstrato, ne, "TipoEstrato");
-    Iguales(ea.ParámetroPresión, eb.ParámetroPresión, ne, "ParámetroPresión");
-    Iguales(ea.CoeficienteConsolidaciónVertical, eb.CoeficienteConsolidaciónVertical, ne, "Cv");
-    Iguales(ea.TiempoDeConstrucción, eb.TiempoDeConstrucción, ne, "TiempoDeConstrucción");
+    Columnas<E, double>(ea, eb, ne, {&E::Cohesión, &E::Fricción, &E::ParámetroPresión, &E::CoeficienteConsolidaciónVertical,
+                                     &E::TiempoDeConstrucción});
+    Columnas<E, Entero>(ea, eb, ne, {&E::TipoEstrato});
   } else {
-    Iguales(ea.m_intacta, eb.m_intacta, ne, "m_intacta");
-    Iguales(ea.Parámetro_GSI, eb.Parámetro_GSI, ne, "GSI");
-    Iguales(ea.m_macizo, eb.m_macizo, ne, "m_macizo");
-    Iguales(ea.s_macizo, eb.s_macizo, ne, "s_macizo");
-    Iguales(ea.C_Simple, eb.C_Simple, ne, "C_Simple");
+    Columnas<E, double>(ea, eb, ne, {&E::m_intacta, &E::Parámetro_GSI, &E::m_macizo, &E::s_macizo, &E::C_Simple});
     EXPECT_EQ(a.Roca.TipoDeObra, b.Roca.TipoDeObra);
     EXPECT_EQ(a.Roca.FactorPerturbación, b.Roca.FactorPerturbación);
     EXPECT_EQ(a.Roca.AlturaH, b.Roca.AlturaH);
     EXPECT_EQ(a.Roca.EnsayosDados, b.Roca.EnsayosDados);
     if (a.Roca.EnsayosDados) {
-      Iguales(a.Roca.PuntosEnsayo, b.Roca.PuntosEnsayo, ne, "PuntosEnsayo");
-      for (long s = 1; s <= ne; ++s)
+      for (long s = 1; s <= ne; ++s) {
+        EXPECT_EQ(a.Roca.PuntosEnsayo.Leer(s), b.Roca.PuntosEnsayo.Leer(s)) << s;
         for (long j = 1; j <= a.Roca.PuntosEnsayo.Leer(s); ++j) {
           EXPECT_EQ(a.Roca.EnsayoSigma1.Leer(s, j), b.Roca.EnsayoSigma1.Leer(s, j));
           EXPECT_EQ(a.Roca.EnsayoSigma3.Leer(s, j), b.Roca.EnsayoSigma3.Leer(s, j));
         }
+      }
     }
   }
   EXPECT_EQ(a.NúmeroCargasUniformes, b.NúmeroCargasUniformes);
-  for (auto c : {&TablaCargaUniforme::xo, &TablaCargaUniforme::yo, &TablaCargaUniforme::xf, &TablaCargaUniforme::yf,
-                 &TablaCargaUniforme::qx, &TablaCargaUniforme::qy})
-    Iguales(a.CargaUniforme.*c, b.CargaUniforme.*c, a.NúmeroCargasUniformes, "CargaUniforme");
+  using CU = TablaCargaUniforme;
+  using CP = TablaCargaPuntual;
+  Columnas<CU, double>(a.CargaUniforme, b.CargaUniforme, a.NúmeroCargasUniformes,
+                       {&CU::xo, &CU::yo, &CU::xf, &CU::yf, &CU::qx, &CU::qy});
   EXPECT_EQ(a.NúmeroCargasPuntuales, b.NúmeroCargasPuntuales);
-  for (auto c : {&TablaCargaPuntual::Xpuntual, &TablaCargaPuntual::Ypuntual, &TablaCargaPuntual::Px, &TablaCargaPuntual::Py})
-    Iguales(a.CargaPuntual.*c, b.CargaPuntual.*c, a.NúmeroCargasPuntuales, "CargaPuntual");
+  Columnas<CP, double>(a.CargaPuntual, b.CargaPuntual, a.NúmeroCargasPuntuales, {&CP::Xpuntual, &CP::Ypuntual, &CP::Px, &CP::Py});
   EXPECT_EQ(a.CálculoHecho, b.CálculoHecho);
   if (a.CálculoHecho) {
     EXPECT_EQ(a.NúmeroBordes, b.NúmeroBordes);
     const long n = a.NúmeroBordes - 1;
     const auto &da = a.TablaDovelas, &db = b.TablaDovelas;
-    Iguales(da.Ancho, db.Ancho, n, "Ancho");
-    Iguales(da.XMedio, db.XMedio, n, "XMedio");
-    Iguales(da.YTalud, db.YTalud, n, "YTalud");
-    Iguales(da.YBase, db.YBase, n, "YBase");
-    Iguales(da.PresiónPoros, db.PresiónPoros, n, "PresiónPoros");
-    Iguales(da.PesoUnitarioMedio, db.PesoUnitarioMedio, n, "PesoUnitarioMedio");
-    Iguales(da.EsfuerzoNormalTotal, db.EsfuerzoNormalTotal, n, "EsfuerzoNormalTotal");
-    Iguales(da.EsfuerzoNormalEfectivo, db.EsfuerzoNormalEfectivo, n, "EsfuerzoNormalEfectivo");
-    Iguales(da.EsfuerzoTangencial, db.EsfuerzoTangencial, n, "EsfuerzoTangencial");
-    if (a.TipoDeMaterial == "S" || pa.UsaParámetrosInstantáneos) {
-      Iguales(da.FricciónBase, db.FricciónBase, n, "FricciónBase");
-      Iguales(da.CohesiónBase, db.CohesiónBase, n, "CohesiónBase");
-    }
+    Columnas<D, double>(da, db, n, {&D::Ancho, &D::XMedio, &D::YTalud, &D::YBase, &D::PresiónPoros, &D::PesoUnitarioMedio,
+                                    &D::EsfuerzoNormalTotal, &D::EsfuerzoNormalEfectivo, &D::EsfuerzoTangencial});
+    if (a.TipoDeMaterial == "S" || pa.UsaParámetrosInstantáneos)
+      Columnas<D, double>(da, db, n, {&D::FricciónBase, &D::CohesiónBase});
     if (a.TipoDeMaterial == "R") {
-      if (!pa.UsaParámetrosInstantáneos) {
-        Iguales(da.m_Base, db.m_Base, n, "m_Base");
-        Iguales(da.s_Base, db.s_Base, n, "s_Base");
-      }
-      Iguales(da.a_Base, db.a_Base, n, "a_Base");
-      Iguales(da.EsfuerzoPrincipalMayor, db.EsfuerzoPrincipalMayor, n, "EsfuerzoPrincipalMayor");
-      Iguales(da.EsfuerzoPrincipalMenor, db.EsfuerzoPrincipalMenor, n, "EsfuerzoPrincipalMenor");
+      if (!pa.UsaParámetrosInstantáneos) Columnas<D, double>(da, db, n, {&D::m_Base, &D::s_Base});
+      Columnas<D, double>(da, db, n, {&D::a_Base, &D::EsfuerzoPrincipalMayor, &D::EsfuerzoPrincipalMenor});
     }
-    if (pa.MétodoDeCálculo == 4) Iguales(da.AlturaEmpuje, db.AlturaEmpuje, n, "AlturaEmpuje");
+    if (pa.MétodoDeCálculo == 4) Columnas<D, double>(da, db, n, {&D::AlturaEmpuje});
     EXPECT_EQ(a.NúmeroIteraciones, b.NúmeroIteraciones);
     const long k = a.NúmeroIteraciones;
     EXPECT_EQ(a.HistoriaIteraciones.FactorDeSeguridad.Leer(k), b.HistoriaIteraciones.FactorDeSeguridad.Leer(k));
@@ -294,27 +270,14 @@ void CompararProyectos(const Proyecto& a, const Proyecto& b) {
     }
     for (long r = 1; r < k; ++r) EXPECT_EQ(b.HistoriaIteraciones.FactorDeSeguridad.Leer(r), 0.0) << "fila previa " << r;
   }
-  const auto &ga = a.GrietaTracción, &gb = b.GrietaTracción;
-  EXPECT_EQ(ga.AbscisaPrimerPunto, gb.AbscisaPrimerPunto);
-  EXPECT_EQ(ga.OrdenadaPrimerPunto, gb.OrdenadaPrimerPunto);
-  EXPECT_EQ(ga.AbscisaSegundoPunto, gb.AbscisaSegundoPunto);
-  EXPECT_EQ(ga.OrdenadaSegundoPunto, gb.OrdenadaSegundoPunto);
-  EXPECT_EQ(ga.AbscisaNF, gb.AbscisaNF);
-  EXPECT_EQ(ga.OrdenadaNF, gb.OrdenadaNF);
-  EXPECT_EQ(ga.EmpujeGrieta, gb.EmpujeGrieta);
-  EXPECT_EQ(a.SumaTangenciales, b.SumaTangenciales);
-  EXPECT_EQ(a.SumaNormalesTotales, b.SumaNormalesTotales);
-  EXPECT_EQ(a.SumaNormalesEfectivos, b.SumaNormalesEfectivos);
-  EXPECT_EQ(a.SumaPrincipalesMayores, b.SumaPrincipalesMayores);
-  EXPECT_EQ(a.SumaPrincipalesMenores, b.SumaPrincipalesMenores);
-  const auto &aa = a.Anclajes, &ab = b.Anclajes;
-  EXPECT_EQ(aa.FSConAnclaje, ab.FSConAnclaje);
-  EXPECT_EQ(aa.InclinaciónAnclajes, ab.InclinaciónAnclajes);
-  EXPECT_EQ(aa.DiámetroAnclajes, ab.DiámetroAnclajes);
-  EXPECT_EQ(aa.EsfuerzoRoturaAnclaje, ab.EsfuerzoRoturaAnclaje);
-  EXPECT_EQ(aa.NúmeroGuayas, ab.NúmeroGuayas);
-  EXPECT_EQ(aa.SeparaciónAnclajesActivo, ab.SeparaciónAnclajesActivo);
-  EXPECT_EQ(aa.SeparaciónAnclajesPasivo, ab.SeparaciónAnclajesPasivo);
+  using G = TablaGrietaTracción;
+  Campos<G, double>(a.GrietaTracción, b.GrietaTracción, {&G::AbscisaPrimerPunto, &G::OrdenadaPrimerPunto, &G::AbscisaSegundoPunto,
+                                                         &G::OrdenadaSegundoPunto, &G::AbscisaNF, &G::OrdenadaNF, &G::EmpujeGrieta});
+  Campos<Proyecto, double>(a, b, {&Proyecto::SumaTangenciales, &Proyecto::SumaNormalesTotales, &Proyecto::SumaNormalesEfectivos,
+                                  &Proyecto::SumaPrincipalesMayores, &Proyecto::SumaPrincipalesMenores});
+  using A = DatosAnclajes;
+  Campos<A, double>(a.Anclajes, b.Anclajes, {&A::FSConAnclaje, &A::InclinaciónAnclajes, &A::DiámetroAnclajes, &A::EsfuerzoRoturaAnclaje,
+                                             &A::NúmeroGuayas, &A::SeparaciónAnclajesActivo, &A::SeparaciónAnclajesPasivo});
 }
 
 class ArchivoProyecto : public ::testing::Test {
@@ -347,7 +310,7 @@ TEST_F(ArchivoProyecto, SueloSinResultadosIdaYVuelta) {
   Proyecto p = ProyectoSuelo(false);
   p.ParámetrosIniciales.MétodoDeCálculo = 3;
   // A polyline of three stretches instead of the arc.
-  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {35, 12}, {25, 9}, {15, 10}});
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {35, 12}, {25, 9}, {15, 10}});
   p.NúmeroTramosFalla = 3;
   p.TramoFalla.Redimensionar(3);
   for (long i = 1; i <= 3; ++i) { p.TramoFalla.PuntoInicial[i] = i; p.TramoFalla.PuntoFinal[i] = i + 1; p.TramoFalla.TipoUnión[i] = "L"; }
@@ -401,7 +364,7 @@ TEST_F(ArchivoProyecto, LetraDeVaríaRadioSoloConUnArcoYBishop) {
     p.NúmeroTramosFalla = c.tramos;
     Proyecto q = IdaYVuelta(p);
     CompararProyectos(p, q);
-    const auto líneas = Líneas(LeerBytes(ruta));
+    const auto líneas = Líneas(pruebas::LeerArchivo(ruta));
     // Head 8 lines; body: material, letter, method, ten reals, surface (1 + 4), failure (1 + 2).
     const std::size_t tramos = 8 + 3 + 10 + 5 + 3;
     ASSERT_GT(líneas.size(), tramos + 2);
@@ -447,7 +410,7 @@ TEST_F(ArchivoProyecto, DescripciónComillasYAcentos) {
   p.Ventana.TextoProyecto = "Primera línea\r\nsegunda \"corte\"\nfin";
   p.InformaciónProyecto.Empresa = "Compañía Técnica Ñandú";
   ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
-  const std::string bytes = LeerBytes(ruta);
+  const std::string bytes = pruebas::LeerArchivo(ruta);
   // Windows-1252 on disk: one byte a letter, no UTF-8 pairs.
   EXPECT_NE(bytes.find("\"Compa\xF1\xED""a T\xE9""cnica \xD1""and\xFA\""), std::string::npos);
   EXPECT_EQ(bytes.find("\xC3"), std::string::npos);
@@ -482,7 +445,7 @@ TEST_F(ArchivoProyecto, QuinceCifrasSignificativas) {
   p.ParámetrosIniciales.Multiplicador2 = -1.0e-12 / 7.0;
   CargarPanelCoordenadas(p, 1, 1);
   ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
-  const auto líneas = Líneas(LeerBytes(ruta));
+  const auto líneas = Líneas(pruebas::LeerArchivo(ruta));
   EXPECT_EQ(líneas[8 + 3 + 2], "0.333333333333333");
   EXPECT_EQ(líneas[8 + 3 + 10 + 2], "123456.789012346,20");
   Proyecto q;
@@ -513,7 +476,7 @@ TEST_F(ArchivoProyecto, PuntoDecimalBajoUnaConfiguraciónEspañola) {
   std::locale::global(antes);
   ASSERT_TRUE(guardado);
   ASSERT_TRUE(leído);
-  const auto líneas = Líneas(LeerBytes(ruta));
+  const auto líneas = Líneas(pruebas::LeerArchivo(ruta));
   EXPECT_EQ(líneas[8 + 3 + 2], "1.35");
   EXPECT_EQ(líneas[8 + 3 + 10 + 3], "20,10");
   CompararProyectos(p, q);
@@ -600,7 +563,7 @@ TEST_F(ArchivoProyecto, ElEscritorOrdenaElEstadoAntesDelCuerpo) {
   Proyecto p = ProyectoSuelo(true);
   auto& pi = p.ParámetrosIniciales;
   pi.CentroX = 11; pi.CentroY = 12; pi.ReferenciaMomentoX = 21; pi.ReferenciaMomentoY = 22;
-  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {30, 11}, {15, 10}});
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {30, 11}, {15, 10}});
   p.NúmeroTramosFalla = 2;
   p.TramoFalla.Redimensionar(2);
   p.TramoFalla.PuntoInicial[1] = 1; p.TramoFalla.PuntoFinal[1] = 2; p.TramoFalla.TipoUnión[1] = "L";
@@ -673,7 +636,7 @@ TEST_F(ArchivoProyecto, EscrituraFallidaLoDiceYNoTocaElArchivoAnterior) {
 TEST_F(ArchivoProyecto, ArchivoTruncadoGuardaLoLeído) {
   Proyecto p = ProyectoSuelo(true);
   ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
-  const std::string bytes = LeerBytes(ruta);
+  const std::string bytes = pruebas::LeerArchivo(ruta);
   // Cut inside the first stratum, after two of its three points: head, parameters, surface,
   // failure surface, its stretch and letter, phreatic line, strata line, count and 8 fields.
   const auto líneas = Líneas(bytes);
