@@ -1,0 +1,49 @@
+// The painter writes figures to PNG, SVG and PDF; a person can look at the PNGs it leaves.
+#include <QFile>
+#include <QApplication>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include "apoyo/apoyo.h"
+#include "pintor.h"
+#include "salida/caso_salida.h"
+#include "salida/graficos.h"
+
+namespace lomaterra {
+namespace {
+
+class Pintor : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    static int argc = 1;
+    static char nombre[] = "prueba";
+    static char* argv[] = {nombre, nullptr};
+    if (!QApplication::instance()) new QApplication(argc, argv);
+  }
+  Proyecto p = pruebas::CasoTresDovelas();
+  std::string carpeta = pruebas::CarpetaTemporal();
+};
+
+// Counts the pixels that are neither white nor transparent.
+long PíxelesPintados(const QImage& imagen) {
+  long n = 0;
+  for (int y = 0; y < imagen.height(); ++y)
+    for (int x = 0; x < imagen.width(); ++x)
+      if ((imagen.pixel(x, y) & 0xFFFFFF) != 0xFFFFFF) ++n;
+  return n;
+}
+
+TEST_F(Pintor, CadaGráficoDelMenúSeExportaEnPNGNoVacío) {
+  for (const auto& nombre : NombresDeGráficos()) {
+    const QString ruta = QString::fromStdString(carpeta + "/" + nombre + ".png");
+    QString error;
+    ASSERT_TRUE(ExportarPNG(FiguraGráfico(p, nombre), ruta, &error)) << error.toStdString();
+    QImage imagen(ruta);
+    ASSERT_FALSE(imagen.isNull()) << nombre;
+    EXPECT_EQ(imagen.size(), QSize(1600, 1100));
+    EXPECT_GT(PíxelesPintados(imagen), 20000) << nombre;
+  }
+}
+}  // namespace
+}  // namespace lomaterra
