@@ -72,6 +72,8 @@ QFont Fuente(double puntos, const Disposición& d, bool negrita = false) {
   QFont f;
   f.setPixelSize(std::max(1, static_cast<int>(std::lround(puntos * 4.0 / 3.0 * d.u * d.s))));
   f.setBold(negrita);
+  // No ligatures: a PDF reader then finds "fi" and "fl" in the words as they are typed.
+  f.setStyleStrategy(QFont::PreferNoShaping);
   return f;
 }
 

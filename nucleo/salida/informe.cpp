@@ -91,8 +91,8 @@ std::vector<int> AnchosDeColumnas(const TablaDeTexto& t, int) {
   for (std::size_t j = 0; j < t.columnas.size(); ++j) {
     int w = 3;
     for (const auto& p : Palabras(t.columnas[j])) w = std::max(w, Caracteres(p));
-    // A caption is broken into lines of about twelve characters at most; the cells never.
-    w = std::max(w, std::min(Caracteres(t.columnas[j]), 12));
+    // A caption is broken into lines of about ten characters at most; the cells never.
+    w = std::max(w, std::min(Caracteres(t.columnas[j]), 10));
     for (const auto& f : t.filas)
       if (j < f.size()) w = std::max(w, Caracteres(f[j]));
     anchos.push_back(w + 2);
@@ -427,7 +427,7 @@ Informe InformeDeResultados(const Proyecto& p) {
   inf.Subtítulo("Factor de seguridad: " + N(FactorDeSeguridadFinal(p), "#0.000"));
   inf.AñadirTabla(TablaHistoriaIteraciones(p));
   inf.Subtítulo("Resultados en las dovelas");
-  for (const auto& parte : Partes(TablaResultadosDovelas(p), 9)) inf.AñadirTabla(parte);
+  for (const auto& parte : Partes(TablaResultadosDovelas(p), 8)) inf.AñadirTabla(parte);
   inf.Subtítulo("Sumas");
   inf.AñadirTabla(TablaSumas(p));
   const auto& a = p.Anclajes;
