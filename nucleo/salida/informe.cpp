@@ -110,6 +110,26 @@ int LíneasEncabezado(const TablaDeTexto& t, int caracteresPorLínea) {
 
 // --- Pages -------------------------------------------------------------------------------------
 
+namespace {
+
+// The lines a block needs on the page where it starts: a figure whole, a table its captions and
+// two rows, a paragraph two lines.
+int Arranque(const BloqueInforme& b, const MedidasPágina& m) {
+  switch (b.tipo) {
+    case BloqueInforme::Tipo::Figura: return std::min(std::max(m.líneasFigura, 5), m.líneas);
+    case BloqueInforme::Tipo::Tabla:
+      return 1 + LíneasEncabezado(b.tabla, m.caracteres) + static_cast<int>(std::min<std::size_t>(b.tabla.filas.size(), 2));
+    case BloqueInforme::Tipo::Párrafo:
+      return static_cast<int>(std::min<std::size_t>(PartirTexto(b.texto, m.caracteres).size(), 2));
+    case BloqueInforme::Tipo::Título: return 3;
+    case BloqueInforme::Tipo::Subtítulo: return 2;
+    case BloqueInforme::Tipo::SaltoDePágina: return 0;
+  }
+  return 0;
+}
+
+}  // namespace
+
 std::vector<PáginaInforme> Paginar(const Informe& informe, const MedidasPágina& m) {
   using E = ElementoPágina::Tipo;
   const int L = std::max(m.líneas, 10);
@@ -135,8 +155,9 @@ std::vector<PáginaInforme> Paginar(const Informe& informe, const MedidasPágina
       case BloqueInforme::Tipo::Subtítulo: {
         const bool título = b.tipo == BloqueInforme::Tipo::Título;
         const int alto = título ? 3 : 2;
-        // A heading keeps at least four lines of what follows on its page.
-        if (usadas > 0 && usadas + alto + 4 > L) nueva();
+        // A heading keeps on its page the start of what follows it.
+        const int siguiente = k + 1 < informe.bloques.size() ? Arranque(informe.bloques[k + 1], m) : 0;
+        if (usadas > 0 && usadas + alto + siguiente > L) nueva();
         poner({título ? E::Título : E::Subtítulo, b.texto, k, -1, alto});
         break;
       }
