@@ -3,6 +3,8 @@
 // each sets its stage flag at its end.
 #pragma once
 
+#include <optional>
+
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {
@@ -24,6 +26,11 @@ void EjecutarEtapas(Proyecto& p, Interfaz& ui);
 void CentroDelArco(Proyecto& p, Interfaz& ui);
 // Arc of a "C" stretch between points pt and qt in a surface of several stretches.
 void AjusteArcoEntrePuntos(Proyecto& p, Interfaz& ui, int pt, int qt);
+// Abscissa where chord i of PuntosFalla meets segment j of the line of stratum s, by the letter of
+// point i ("L" straight, "C" arc, "P" polynomial); mf and ms are the slopes of chord and segment.
+// Nothing when a straight chord runs parallel to the stratum (the user is told).
+std::optional<double> IntersecciónEnTramo(Proyecto& p, Interfaz& ui, long i, int s, long j, double mf,
+                                          double ms);
 // Ordinate of the failure surface at x on stretch `tramo` whose chord slope is m.
 double OrdenadaDeFalla(Proyecto& p, Interfaz& ui, double m, int tramo, double x);
 

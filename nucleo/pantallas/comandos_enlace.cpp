@@ -1,12 +1,27 @@
 // Binds each menu entry to the command that the core runs for it. One line a command.
 #include "proyecto/comandos.h"
 
+#include "pantallas/constantes.h"
+#include "pantallas/constantes_elementos.h"
+#include "pantallas/form15.h"
+#include "pantallas/form5.h"
+#include "pantallas/form6.h"
+#include "pantallas/form7.h"
+#include "pantallas/form8.h"
+#include "equilibrio/fellenius.h"
 #include "pantallas/resultados.h"
 
 namespace lomaterra {
 
 void EnlazarComandos(std::map<std::string, Acción>& a) {
-  // a["MétodoFellenius"] = MétodoFellenius;
+  a["MenúInformación"] = MenúInformación;
+  a["CaracterísticasGeomecánicasSuelos"] = CaracterísticasGeomecánicasSuelos;
+  a["MénuGeometríaEntrePuntosSuperficieFalla"] = MénuGeometríaEntrePuntosSuperficieFalla;
+  a["CargasUniformes"] = CargasUniformes;
+  a["CargasPuntuales"] = CargasPuntuales;
+  a["MenúArchivoConstantes"] = MenúArchivoConstantes;
+  a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
+  a["MétodoFellenius"] = MétodoFellenius;
   a["ResultadosCálculoRocas"] = ResultadosCálculoRocas;
   a["ResultadosCálculoSuelos"] = ResultadosCálculoSuelos;
   a["GráficoEsfuerzoPrincipalMenor"] = GráficoEsfuerzoPrincipalMenor;
