@@ -1,5 +1,6 @@
 // The presentation commands: their gates word for word, the result screen and its clipboard text,
 // the anchor screens against a hand calculation, and the print commands through the port.
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -197,6 +198,46 @@ TEST_F(Presentación, LaPantallaDeResultadosMuestraMétodoFactorHistoriaDovelasY
   ASSERT_EQ(copiado.rfind("Método\tBishop A. W.\nFactor de seguridad\t1.500\n\nDovela\tX medio (m)\tAncho (m)\t", 0), 0u) << copiado;
   EXPECT_NE(copiado.find("\n2\t17.50\t5.00\t"), std::string::npos);
   EXPECT_NE(copiado.find("Suma de esfuerzos normales efectivos (ton/m2)\t19.50\n"), std::string::npos);
+}
+
+TEST_F(Presentación, EnRocaSeMuestranLosParámetrosDelMacizoLosPrincipalesYLosMultiplicadores) {
+  p.TipoDeMaterial = "R";
+  p.ParámetrosIniciales.MétodoDeCálculo = 1;
+  auto& d = p.TablaDovelas;
+  for (auto* t : {&d.m_Base, &d.s_Base, &d.a_Base, &d.C_SimpleBase, &d.EsfuerzoPrincipalMayor, &d.EsfuerzoPrincipalMenor})
+    t->Redimensionar(3);
+  for (long i = 1; i <= 3; ++i) {
+    d.m_Base[i] = 1.2;
+    d.s_Base[i] = 0.0004;
+    d.a_Base[i] = 0.51;
+    d.C_SimpleBase[i] = 250;
+    d.EsfuerzoPrincipalMayor[i] = 20 + i;
+    d.EsfuerzoPrincipalMenor[i] = i;
+  }
+  p.SumaPrincipalesMayores = 66;
+  p.SumaPrincipalesMenores = 6;
+  p.HistoriaIteraciones.Multiplicador1[3] = 0.25;
+  p.HistoriaIteraciones.Multiplicador2[3] = -0.5;
+  ui.GuionPantalla("ResultadosEquilibrioLímite", [&](Pantalla& s, Interfaz&) {
+    EXPECT_EQ(s.título, "Resultados del cálculo para rocas");
+    EXPECT_EQ(s.texto("TextoMétodo"), "Dov Leshchinsky - Ching y Hoek - Brown (m, s)");
+    const auto& h = s.lista("ListaIteraciones");
+    EXPECT_EQ(h.columnas, (std::vector<std::string>{"Iteración", "Multiplicador µ1", "Multiplicador µ2", "Factor de seguridad"}));
+    EXPECT_EQ(h.filas.back(), (std::vector<std::string>{"3", "0.250000", "-0.500000", "1.500"}));
+    const auto& c = s.lista("ListaDovelas").columnas;
+    for (const char* t : {"m macizo", "s macizo", "a macizo", "σci (kg/cm2)", "Esfuerzo principal mayor σ1 (ton/m2)",
+                          "Esfuerzo principal menor σ3 (ton/m2)"})
+      EXPECT_NE(std::find(c.begin(), c.end(), t), c.end()) << t;
+    // Without instantaneous parameters the rock shows no cohesion and friction of its own.
+    EXPECT_EQ(std::find(c.begin(), c.end(), "Cohesión c (ton/m2)"), c.end());
+    const auto& sumas = s.lista("ListaSumas").filas;
+    ASSERT_GE(sumas.size(), 5u);
+    EXPECT_EQ(sumas[3], (std::vector<std::string>{"Suma de esfuerzos principales mayores (ton/m2)", "66.00"}));
+    EXPECT_EQ(sumas[4], (std::vector<std::string>{"Suma de esfuerzos principales menores (ton/m2)", "6.00"}));
+  });
+  Ejecutar("ResultadosCálculoRocas", p, ui);
+  ASSERT_EQ(ui.Transcripción().size(), 1u);
+  EXPECT_EQ(ui.Transcripción()[0].tipo, "pantalla");
 }
 
 // Hand calculation of the anchors for the three slices.
