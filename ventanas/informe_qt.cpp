@@ -5,7 +5,6 @@
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QSaveFile>
-
 #include <algorithm>
 #include <cmath>
 
@@ -16,7 +15,9 @@ namespace lomaterra {
 
 namespace {
 
-QString AQ(const std::string& s) { return QString::fromStdString(s); }
+QString AQ(const std::string& s) {
+  return QString::fromStdString(s);
+}
 
 // Fonts in device pixels, from points.
 QFont Fuente(const QPaintDevice& d, double puntos, bool negrita = false, bool cursiva = false) {
@@ -54,7 +55,8 @@ Marco Disponer(const QPaintDevice& d, const QRectF& página, std::size_t líneas
   const double altoPie = cabeza.lineSpacing() * 2.0;
   m.cabecera = QRectF(página.left(), página.top(), página.width(), altoCabecera);
   m.pie = QRectF(página.left(), página.bottom() - altoPie, página.width(), altoPie);
-  m.cuerpo = QRectF(página.left(), m.cabecera.bottom(), página.width(), m.pie.top() - m.cabecera.bottom());
+  m.cuerpo =
+      QRectF(página.left(), m.cabecera.bottom(), página.width(), m.pie.top() - m.cabecera.bottom());
   return m;
 }
 
@@ -66,7 +68,8 @@ MedidasPágina Medidas(const Marco& m) {
   return r;
 }
 
-void Cabecera(QPainter& p, const QPaintDevice& d, const Marco& m, const Informe& inf, int página, int páginas) {
+void Cabecera(QPainter& p, const QPaintDevice& d, const Marco& m, const Informe& inf, int página,
+              int páginas) {
   const QFont f = Fuente(d, kPuntosEncabezado);
   const QFont fb = Fuente(d, kPuntosEncabezado, true);
   const QFontMetricsF fm(f, &d);
@@ -82,7 +85,8 @@ void Cabecera(QPainter& p, const QPaintDevice& d, const Marco& m, const Informe&
   y += h;
   p.setPen(QColor(70, 70, 70));
   for (const auto& l : inf.encabezado) {
-    p.drawText(QRectF(m.cabecera.left(), y, m.cabecera.width(), h), Qt::AlignLeft | Qt::AlignVCenter,
+    p.drawText(QRectF(m.cabecera.left(), y, m.cabecera.width(), h),
+               Qt::AlignLeft | Qt::AlignVCenter,
                fm.elidedText(AQ(l), Qt::ElideRight, m.cabecera.width()));
     y += h;
   }
@@ -90,7 +94,8 @@ void Cabecera(QPainter& p, const QPaintDevice& d, const Marco& m, const Informe&
   p.drawLine(QPointF(m.cabecera.left(), y + 0.2 * h), QPointF(m.cabecera.right(), y + 0.2 * h));
   // Foot: the page number again, centred.
   p.setPen(QPen(QColor(120, 120, 120), std::max(1.0, d.logicalDpiY() / 300.0)));
-  p.drawLine(QPointF(m.pie.left(), m.pie.top() + 0.3 * h), QPointF(m.pie.right(), m.pie.top() + 0.3 * h));
+  p.drawLine(QPointF(m.pie.left(), m.pie.top() + 0.3 * h),
+             QPointF(m.pie.right(), m.pie.top() + 0.3 * h));
   p.setPen(QColor(70, 70, 70));
   p.drawText(QRectF(m.pie.left(), m.pie.top() + 0.4 * h, m.pie.width(), h), Qt::AlignCenter,
              QStringLiteral("- %1 -").arg(página));
@@ -117,13 +122,14 @@ Columnas ColumnasDeTabla(const TablaDeTexto& t, const Marco& m, int caracteres) 
   return c;
 }
 
-void EncabezadoDeTabla(QPainter& p, const QPaintDevice& d, const Marco& m, const TablaDeTexto& t, const std::string& título,
-                       int caracteres, double y, int líneas) {
+void EncabezadoDeTabla(QPainter& p, const QPaintDevice& d, const Marco& m, const TablaDeTexto& t,
+                       const std::string& título, int caracteres, double y, int líneas) {
   const Columnas c = ColumnasDeTabla(t, m, caracteres);
   const auto anchos = AnchosDeColumnas(t, caracteres);
   p.setFont(Fuente(d, kPuntosCuerpo, true, true));
   p.setPen(Qt::black);
-  p.drawText(QRectF(m.cuerpo.left(), y, m.cuerpo.width(), m.alto), Qt::AlignLeft | Qt::AlignVCenter, AQ(título));
+  p.drawText(QRectF(m.cuerpo.left(), y, m.cuerpo.width(), m.alto), Qt::AlignLeft | Qt::AlignVCenter,
+             AQ(título));
   y += m.alto;
   const double alto = (líneas - 1) * m.alto;
   const double derecha = c.x.back() + c.ancho.back();
@@ -133,24 +139,29 @@ void EncabezadoDeTabla(QPainter& p, const QPaintDevice& d, const Marco& m, const
     const auto partes = PartirTexto(t.columnas[j], anchos[j] - 1);
     QString texto;
     for (std::size_t k = 0; k < partes.size(); ++k) texto += (k ? "\n" : "") + AQ(partes[k]);
-    p.drawText(QRectF(c.x[j] + 0.3 * m.ancho, y, c.ancho[j] - 0.6 * m.ancho, alto), Qt::AlignCenter, texto);
+    p.drawText(QRectF(c.x[j] + 0.3 * m.ancho, y, c.ancho[j] - 0.6 * m.ancho, alto), Qt::AlignCenter,
+               texto);
   }
   p.setPen(QPen(QColor(90, 90, 90), std::max(1.0, d.logicalDpiY() / 300.0)));
   p.drawLine(QPointF(m.cuerpo.left(), y), QPointF(derecha, y));
   p.drawLine(QPointF(m.cuerpo.left(), y + alto), QPointF(derecha, y + alto));
 }
 
-void FilaDeTabla(QPainter& p, const QPaintDevice& d, const Marco& m, const TablaDeTexto& t, long fila, int caracteres, double y) {
+void FilaDeTabla(QPainter& p, const QPaintDevice& d, const Marco& m, const TablaDeTexto& t,
+                 long fila, int caracteres, double y) {
   const Columnas c = ColumnasDeTabla(t, m, caracteres);
   const double derecha = c.x.back() + c.ancho.back();
-  if (fila % 2 == 1) p.fillRect(QRectF(m.cuerpo.left(), y, derecha - m.cuerpo.left(), m.alto), QColor(245, 245, 245));
+  if (fila % 2 == 1)
+    p.fillRect(QRectF(m.cuerpo.left(), y, derecha - m.cuerpo.left(), m.alto),
+               QColor(245, 245, 245));
   p.setFont(Fuente(d, kPuntosCuerpo * c.escala));
   p.setPen(Qt::black);
   const auto& celdas = t.filas[static_cast<std::size_t>(fila)];
   for (std::size_t j = 0; j < celdas.size() && j < c.x.size(); ++j) {
     // Numbers to the right, words to the left.
     const Qt::Alignment a = EsNúmero(celdas[j]) ? Qt::AlignRight : Qt::AlignLeft;
-    p.drawText(QRectF(c.x[j] + 0.5 * m.ancho, y, c.ancho[j] - m.ancho, m.alto), a | Qt::AlignVCenter, AQ(celdas[j]));
+    p.drawText(QRectF(c.x[j] + 0.5 * m.ancho, y, c.ancho[j] - m.ancho, m.alto),
+               a | Qt::AlignVCenter, AQ(celdas[j]));
   }
   // The last row of the table, or of its part on this page, closes with a rule.
   p.setPen(QPen(QColor(200, 200, 200), std::max(1.0, d.logicalDpiY() / 400.0)));
@@ -182,23 +193,27 @@ int PintarInforme(const Informe& inf, QPagedPaintDevice& d, QPainter& p) {
         case E::Título:
           p.setFont(Fuente(d, 15, true));
           p.setPen(QColor(20, 40, 90));
-          p.drawText(QRectF(m.cuerpo.left(), y, m.cuerpo.width(), 2 * m.alto), Qt::AlignCenter, AQ(e.texto));
+          p.drawText(QRectF(m.cuerpo.left(), y, m.cuerpo.width(), 2 * m.alto), Qt::AlignCenter,
+                     AQ(e.texto));
           break;
         case E::Subtítulo:
           p.setFont(Fuente(d, 11, true));
           p.setPen(QColor(20, 40, 90));
-          p.drawText(QRectF(m.cuerpo.left(), y + 0.4 * m.alto, m.cuerpo.width(), 1.4 * m.alto), Qt::AlignLeft | Qt::AlignVCenter,
-                     AQ(e.texto));
+          p.drawText(QRectF(m.cuerpo.left(), y + 0.4 * m.alto, m.cuerpo.width(), 1.4 * m.alto),
+                     Qt::AlignLeft | Qt::AlignVCenter, AQ(e.texto));
           p.setPen(QPen(QColor(20, 40, 90), std::max(1.0, d.logicalDpiY() / 200.0)));
-          p.drawLine(QPointF(m.cuerpo.left(), y + 1.85 * m.alto), QPointF(m.cuerpo.right(), y + 1.85 * m.alto));
+          p.drawLine(QPointF(m.cuerpo.left(), y + 1.85 * m.alto),
+                     QPointF(m.cuerpo.right(), y + 1.85 * m.alto));
           break;
         case E::Línea:
           p.setFont(Fuente(d, kPuntosCuerpo));
           p.setPen(Qt::black);
-          p.drawText(QRectF(m.cuerpo.left(), y, m.cuerpo.width(), m.alto), Qt::AlignLeft | Qt::AlignVCenter, AQ(e.texto));
+          p.drawText(QRectF(m.cuerpo.left(), y, m.cuerpo.width(), m.alto),
+                     Qt::AlignLeft | Qt::AlignVCenter, AQ(e.texto));
           break;
         case E::EncabezadoTabla:
-          EncabezadoDeTabla(p, d, m, inf.bloques[e.bloque].tabla, e.texto, medidas.caracteres, y, e.líneas);
+          EncabezadoDeTabla(p, d, m, inf.bloques[e.bloque].tabla, e.texto, medidas.caracteres, y,
+                            e.líneas);
           break;
         case E::FilaTabla:
           FilaDeTabla(p, d, m, inf.bloques[e.bloque].tabla, e.fila, medidas.caracteres, y);
@@ -222,14 +237,17 @@ int PintarInforme(const Informe& inf, QPagedPaintDevice& d, QPainter& p) {
 bool EscribirInformePDF(const Informe& informe, const QString& ruta, QString* error, int* páginas) {
   QSaveFile archivo(ruta);
   if (!archivo.open(QIODevice::WriteOnly)) {
-    if (error) *error = QStringLiteral("No se pudo escribir el archivo %1: %2").arg(ruta, archivo.errorString());
+    if (error)
+      *error =
+          QStringLiteral("No se pudo escribir el archivo %1: %2").arg(ruta, archivo.errorString());
     return false;
   }
   int n = 0;
   {
     QPdfWriter pdf(&archivo);
     pdf.setResolution(300);
-    pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(18, 15, 15, 15), QPageLayout::Millimeter));
+    pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                  QMarginsF(18, 15, 15, 15), QPageLayout::Millimeter));
     pdf.setTitle(AQ(informe.título));
     pdf.setCreator(QStringLiteral("Lomaterra"));
     QPainter p;
@@ -242,7 +260,9 @@ bool EscribirInformePDF(const Informe& informe, const QString& ruta, QString* er
     p.end();
   }
   if (!archivo.commit()) {
-    if (error) *error = QStringLiteral("No se pudo terminar de escribir el archivo %1: %2").arg(ruta, archivo.errorString());
+    if (error)
+      *error = QStringLiteral("No se pudo terminar de escribir el archivo %1: %2")
+                   .arg(ruta, archivo.errorString());
     return false;
   }
   if (páginas) *páginas = n;

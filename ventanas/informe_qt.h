@@ -19,6 +19,7 @@ int PintarInforme(const Informe& informe, QPagedPaintDevice& dispositivo, QPaint
 
 // Writes the report to a PDF file (A4 portrait). Nothing is left at `ruta` unless the whole file
 // was written; `páginas` receives the number of pages.
-bool EscribirInformePDF(const Informe& informe, const QString& ruta, QString* error = nullptr, int* páginas = nullptr);
+bool EscribirInformePDF(const Informe& informe, const QString& ruta, QString* error = nullptr,
+                        int* páginas = nullptr);
 
 }  // namespace lomaterra

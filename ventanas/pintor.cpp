@@ -3,13 +3,12 @@
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QImage>
-#include <QPainterPath>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QPainterPath>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QSvgGenerator>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -19,8 +18,12 @@ namespace lomaterra {
 
 namespace {
 
-QColor AColor(const Color& c) { return QColor(c.r, c.g, c.b); }
-QString AQ(const std::string& s) { return QString::fromStdString(s); }
+QColor AColor(const Color& c) {
+  return QColor(c.r, c.g, c.b);
+}
+QString AQ(const std::string& s) {
+  return QString::fromStdString(s);
+}
 
 // A step of 1, 2 or 5 times a power of ten near `bruto`.
 double PasoRedondo(double bruto) {
@@ -34,12 +37,14 @@ std::vector<double> Marcas(double a, double b, double paso) {
   std::vector<double> r;
   if (!(paso > 0) || !(b > a)) return r;
   const double inicio = std::ceil(a / paso - 1e-9) * paso;
-  for (double v = inicio; v <= b + paso * 1e-9 && r.size() < 200; v += paso) r.push_back(std::abs(v) < paso * 1e-9 ? 0.0 : v);
+  for (double v = inicio; v <= b + paso * 1e-9 && r.size() < 200; v += paso)
+    r.push_back(std::abs(v) < paso * 1e-9 ? 0.0 : v);
   return r;
 }
 
 QString TextoMarca(double v, double paso) {
-  const int decimales = paso >= 1 ? 0 : std::min(6, static_cast<int>(std::ceil(-std::log10(paso) - 1e-9)));
+  const int decimales =
+      paso >= 1 ? 0 : std::min(6, static_cast<int>(std::ceil(-std::log10(paso) - 1e-9)));
   return QString::number(v, 'f', decimales);
 }
 
@@ -50,8 +55,8 @@ struct EntradaLeyenda {
 
 // Where every part of a figure goes inside the rectangle.
 struct Disposición {
-  double u = 1;       // device pixels per screen pixel
-  double s = 1;       // growth of text and lines with the size of the rectangle
+  double u = 1;  // device pixels per screen pixel
+  double s = 1;  // growth of text and lines with the size of the rectangle
   QFont fTítulo, fNota, fEje, fMarca, fLeyenda, fRótulo;
   QRectF marco, área;
   double x0 = 0, x1 = 1, y0 = 0, y1 = 1;
@@ -62,7 +67,8 @@ struct Disposición {
   double altoLeyenda = 0, altoFilaLeyenda = 0, altoTítulo = 0, altoNota = 0;
 
   QPointF A(double x, double y) const {
-    return {área.left() + (x - x0) / (x1 - x0) * área.width(), área.bottom() - (y - y0) / (y1 - y0) * área.height()};
+    return {área.left() + (x - x0) / (x1 - x0) * área.width(),
+            área.bottom() - (y - y0) / (y1 - y0) * área.height()};
   }
   QPointF A(const PuntoFigura& q) const { return A(q.x, q.y); }
   double Px(double pixeles) const { return pixeles * u * s; }
@@ -85,14 +91,16 @@ Disposición Disponer(const Figura& fig, const QRectF& marco, const QPaintDevice
   Disposición d;
   d.marco = marco;
   if (dispositivo) d.u = std::max(1.0, dispositivo->logicalDpiX() / 96.0);
-  d.s = std::clamp(std::min(marco.width() / (d.u * 900.0), marco.height() / (d.u * 620.0)), 0.7, 1.8);
+  d.s =
+      std::clamp(std::min(marco.width() / (d.u * 900.0), marco.height() / (d.u * 620.0)), 0.7, 1.8);
   d.fTítulo = Fuente(12, d, true);
   d.fNota = Fuente(9, d);
   d.fEje = Fuente(9.5, d);
   d.fMarca = Fuente(8, d);
   d.fLeyenda = Fuente(8.5, d);
-  const QFontMetricsF mTítulo = Métrica(d.fTítulo, dispositivo), mNota = Métrica(d.fNota, dispositivo),
-                      mEje = Métrica(d.fEje, dispositivo), mMarca = Métrica(d.fMarca, dispositivo),
+  const QFontMetricsF mTítulo = Métrica(d.fTítulo, dispositivo),
+                      mNota = Métrica(d.fNota, dispositivo), mEje = Métrica(d.fEje, dispositivo),
+                      mMarca = Métrica(d.fMarca, dispositivo),
                       mLeyenda = Métrica(d.fLeyenda, dispositivo);
   const double margen = d.Px(8);
 
@@ -100,27 +108,50 @@ Disposición Disponer(const Figura& fig, const QRectF& marco, const QPaintDevice
   double x0 = std::numeric_limits<double>::max(), x1 = -x0, y0 = x0, y1 = -x0;
   auto incluir = [&](const PuntoFigura& q) {
     if (!std::isfinite(q.x) || !std::isfinite(q.y)) return;
-    x0 = std::min(x0, q.x); x1 = std::max(x1, q.x);
-    y0 = std::min(y0, q.y); y1 = std::max(y1, q.y);
+    x0 = std::min(x0, q.x);
+    x1 = std::max(x1, q.x);
+    y0 = std::min(y0, q.y);
+    y1 = std::max(y1, q.y);
   };
   for (const auto& t : fig.trazos)
     for (const auto& q : t.puntos) incluir(q);
   for (const auto& m : fig.marcas) incluir(m.punto);
-  for (const auto& f : fig.flechas) { incluir(f.desde); incluir(f.hasta); }
+  for (const auto& f : fig.flechas) {
+    incluir(f.desde);
+    incluir(f.hasta);
+  }
   for (const auto& r : fig.rótulos) incluir(r.punto);
-  if (x1 < x0) { x0 = 0; x1 = 1; y0 = 0; y1 = 1; }
+  if (x1 < x0) {
+    x0 = 0;
+    x1 = 1;
+    y0 = 0;
+    y1 = 1;
+  }
   const bool gráfico = fig.tipo == Figura::Tipo::Gráfico;
-  if (gráfico) { y0 = std::min(y0, 0.0); y1 = std::max(y1, 0.0); }
-  if (x1 - x0 <= 0) { x0 -= 1; x1 += 1; }
-  if (y1 - y0 <= 0) { y0 -= 1; y1 += 1; }
+  if (gráfico) {
+    y0 = std::min(y0, 0.0);
+    y1 = std::max(y1, 0.0);
+  }
+  if (x1 - x0 <= 0) {
+    x0 -= 1;
+    x1 += 1;
+  }
+  if (y1 - y0 <= 0) {
+    y0 -= 1;
+    y1 += 1;
+  }
   const double hx = 0.05 * (x1 - x0), hy = 0.06 * (y1 - y0);
-  x0 -= hx; x1 += hx; y0 -= hy; y1 += hy;
+  x0 -= hx;
+  x1 += hx;
+  y0 -= hy;
+  y1 += hy;
 
   // Legend entries, once each caption.
   for (const auto& t : fig.trazos) {
     if (t.leyenda.empty()) continue;
     const QString texto = AQ(t.leyenda);
-    if (std::none_of(d.leyenda.begin(), d.leyenda.end(), [&](const EntradaLeyenda& e) { return e.texto == texto; }))
+    if (std::none_of(d.leyenda.begin(), d.leyenda.end(),
+                     [&](const EntradaLeyenda& e) { return e.texto == texto; }))
       d.leyenda.push_back({texto, &t});
   }
   const double muestra = d.Px(26), separación = d.Px(18);
@@ -130,7 +161,8 @@ Disposición Disponer(const Figura& fig, const QRectF& marco, const QPaintDevice
     std::vector<std::size_t> fila;
     double ancho = 0;
     for (std::size_t k = 0; k < d.leyenda.size(); ++k) {
-      const double w = muestra + d.Px(5) + mLeyenda.horizontalAdvance(d.leyenda[k].texto) + separación;
+      const double w =
+          muestra + d.Px(5) + mLeyenda.horizontalAdvance(d.leyenda[k].texto) + separación;
       if (!fila.empty() && ancho + w > anchoDisponible) {
         d.filasLeyenda.push_back(fila);
         fila.clear();
@@ -146,7 +178,8 @@ Disposición Disponer(const Figura& fig, const QRectF& marco, const QPaintDevice
   d.altoTítulo = fig.título.empty() ? 0 : mTítulo.height() * 1.3;
   d.altoNota = mNota.height() * 1.2;
   const double arriba = margen + d.altoTítulo + fig.notas.size() * d.altoNota + d.Px(6);
-  const double abajo = margen + d.altoLeyenda + (fig.ejeX.empty() ? 0 : mEje.height() * 1.3) + mMarca.height() * 1.4 + d.Px(4);
+  const double abajo = margen + d.altoLeyenda + (fig.ejeX.empty() ? 0 : mEje.height() * 1.3) +
+                       mMarca.height() * 1.4 + d.Px(4);
 
   // Width of the tick labels on the vertical axis, from a first guess of the ticks.
   const double altoPrevio = std::max(10.0, marco.height() - arriba - abajo);
@@ -154,9 +187,11 @@ Disposición Disponer(const Figura& fig, const QRectF& marco, const QPaintDevice
   double anchoMarcas = 0;
   for (double v : Marcas(y0 - (y1 - y0), y1 + (y1 - y0), pasoPrevio))
     anchoMarcas = std::max(anchoMarcas, mMarca.horizontalAdvance(TextoMarca(v, pasoPrevio)));
-  const double izquierda = margen + (fig.ejeY.empty() ? 0 : mEje.height() * 1.4) + anchoMarcas + d.Px(6);
+  const double izquierda =
+      margen + (fig.ejeY.empty() ? 0 : mEje.height() * 1.4) + anchoMarcas + d.Px(6);
   const double derecha = margen + d.Px(10);
-  d.área = QRectF(marco.left() + izquierda, marco.top() + arriba, std::max(10.0, marco.width() - izquierda - derecha),
+  d.área = QRectF(marco.left() + izquierda, marco.top() + arriba,
+                  std::max(10.0, marco.width() - izquierda - derecha),
                   std::max(10.0, marco.height() - arriba - abajo));
 
   if (!gráfico) {
@@ -164,9 +199,15 @@ Disposición Disponer(const Figura& fig, const QRectF& marco, const QPaintDevice
     const double escala = std::min(d.área.width() / (x1 - x0), d.área.height() / (y1 - y0));
     const double cx = 0.5 * (x0 + x1), cy = 0.5 * (y0 + y1);
     const double mx = 0.5 * d.área.width() / escala, my = 0.5 * d.área.height() / escala;
-    x0 = cx - mx; x1 = cx + mx; y0 = cy - my; y1 = cy + my;
+    x0 = cx - mx;
+    x1 = cx + mx;
+    y0 = cy - my;
+    y1 = cy + my;
   }
-  d.x0 = x0; d.x1 = x1; d.y0 = y0; d.y1 = y1;
+  d.x0 = x0;
+  d.x1 = x1;
+  d.y0 = y0;
+  d.y1 = y1;
   d.pasoX = PasoRedondo((x1 - x0) / std::max(2.0, d.área.width() / d.Px(90)));
   d.pasoY = PasoRedondo((y1 - y0) / std::max(2.0, d.área.height() / d.Px(55)));
   if (!gráfico) d.pasoX = d.pasoY = std::max(d.pasoX, d.pasoY);
@@ -175,7 +216,8 @@ Disposición Disponer(const Figura& fig, const QRectF& marco, const QPaintDevice
   return d;
 }
 
-void DibujarMarcador(QPainter& p, QPointF c, const std::string& forma, double lado, const QColor& color, double grosor) {
+void DibujarMarcador(QPainter& p, QPointF c, const std::string& forma, double lado,
+                     const QColor& color, double grosor) {
   const double r = lado / 2;
   p.setPen(QPen(color, grosor));
   if (forma == "cruz") {
@@ -196,7 +238,8 @@ void DibujarMarcador(QPainter& p, QPointF c, const std::string& forma, double la
   p.setBrush(Qt::NoBrush);
 }
 
-void DibujarFlecha(QPainter& p, QPointF a, QPointF b, const QColor& color, double grosor, double cabeza) {
+void DibujarFlecha(QPainter& p, QPointF a, QPointF b, const QColor& color, double grosor,
+                   double cabeza) {
   const double dx = b.x() - a.x(), dy = b.y() - a.y();
   const double l = std::hypot(dx, dy);
   p.setPen(QPen(color, grosor, Qt::SolidLine, Qt::RoundCap));
@@ -205,7 +248,9 @@ void DibujarFlecha(QPainter& p, QPointF a, QPointF b, const QColor& color, doubl
   const double largo = std::min(cabeza, 0.6 * l), ancho = 0.45 * largo;
   const QPointF base(b.x() - ux * largo, b.y() - uy * largo);
   p.drawLine(a, base);
-  const QPointF v[3] = {b, {base.x() - uy * ancho, base.y() + ux * ancho}, {base.x() + uy * ancho, base.y() - ux * ancho}};
+  const QPointF v[3] = {b,
+                        {base.x() - uy * ancho, base.y() + ux * ancho},
+                        {base.x() + uy * ancho, base.y() - ux * ancho}};
   p.setBrush(color);
   p.setPen(QPen(color, 1));
   p.drawPolygon(v, 3);
@@ -238,7 +283,8 @@ void DibujarTrazo(QPainter& p, const Trazo& t, const Disposición& d) {
     }
   }
   if (!t.marcador.empty())
-    for (const auto& q : poligonal) DibujarMarcador(p, q, t.marcador, d.Px(6), AColor(t.color), d.Px(1));
+    for (const auto& q : poligonal)
+      DibujarMarcador(p, q, t.marcador, d.Px(6), AColor(t.color), d.Px(1));
 }
 
 }  // namespace
@@ -256,7 +302,8 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
   p.setPen(Qt::black);
   if (!fig.título.empty()) {
     p.setFont(d.fTítulo);
-    p.drawText(QRectF(marco.left(), y, marco.width(), d.altoTítulo), Qt::AlignCenter, AQ(fig.título));
+    p.drawText(QRectF(marco.left(), y, marco.width(), d.altoTítulo), Qt::AlignCenter,
+               AQ(fig.título));
     y += d.altoTítulo;
   }
   p.setFont(d.fNota);
@@ -282,8 +329,10 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
   p.setClipRect(d.área);
   for (const auto& t : fig.trazos) DibujarTrazo(p, t, d);
   for (const auto& f : fig.flechas)
-    DibujarFlecha(p, d.A(f.desde), d.A(f.hasta), AColor(f.color), std::max(0.5, f.grosor * d.u * d.s), d.Px(9));
-  for (const auto& m : fig.marcas) DibujarMarcador(p, d.A(m.punto), m.forma, m.tamaño * d.u * d.s, AColor(m.color), d.Px(1.5));
+    DibujarFlecha(p, d.A(f.desde), d.A(f.hasta), AColor(f.color),
+                  std::max(0.5, f.grosor * d.u * d.s), d.Px(9));
+  for (const auto& m : fig.marcas)
+    DibujarMarcador(p, d.A(m.punto), m.forma, m.tamaño * d.u * d.s, AColor(m.color), d.Px(1.5));
   for (const auto& r : fig.rótulos) {
     const QFont f = Fuente(r.tamaño, d);
     p.setFont(f);
@@ -292,11 +341,16 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
     const QString texto = AQ(r.texto);
     const double w = m.horizontalAdvance(texto);
     QPointF c = d.A(r.punto);
-    if (r.alineación == "centro") c.rx() -= w / 2;
-    else if (r.alineación == "derecha") c.rx() -= w + d.Px(3);
-    else c.rx() += d.Px(3);
-    if (r.alineación == "centro") c.ry() += m.ascent() / 2 - m.descent();
-    else c.ry() -= d.Px(3);
+    if (r.alineación == "centro")
+      c.rx() -= w / 2;
+    else if (r.alineación == "derecha")
+      c.rx() -= w + d.Px(3);
+    else
+      c.rx() += d.Px(3);
+    if (r.alineación == "centro")
+      c.ry() += m.ascent() / 2 - m.descent();
+    else
+      c.ry() -= d.Px(3);
     p.drawText(c, texto);
   }
   p.restore();
@@ -311,13 +365,17 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
     const QPointF a = d.A(v, d.y0);
     p.drawLine(a, QPointF(a.x(), a.y() + tic));
     const QString t = TextoMarca(v, d.pasoX);
-    p.drawText(QPointF(a.x() - mMarca.horizontalAdvance(t) / 2, a.y() + tic + mMarca.ascent() + d.Px(1)), t);
+    p.drawText(
+        QPointF(a.x() - mMarca.horizontalAdvance(t) / 2, a.y() + tic + mMarca.ascent() + d.Px(1)),
+        t);
   }
   for (double v : d.marcasY) {
     const QPointF a = d.A(d.x0, v);
     p.drawLine(a, QPointF(a.x() - tic, a.y()));
     const QString t = TextoMarca(v, d.pasoY);
-    p.drawText(QPointF(a.x() - tic - d.Px(2) - mMarca.horizontalAdvance(t), a.y() + mMarca.ascent() / 2 - mMarca.descent() / 2), t);
+    p.drawText(QPointF(a.x() - tic - d.Px(2) - mMarca.horizontalAdvance(t),
+                       a.y() + mMarca.ascent() / 2 - mMarca.descent() / 2),
+               t);
   }
 
   // Axis captions.
@@ -325,7 +383,8 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
   const QFontMetricsF mEje(d.fEje, p.device());
   double yPie = d.área.bottom() + tic + mMarca.height() * 1.4;
   if (!fig.ejeX.empty()) {
-    p.drawText(QRectF(d.área.left(), yPie, d.área.width(), mEje.height() * 1.2), Qt::AlignCenter, AQ(fig.ejeX));
+    p.drawText(QRectF(d.área.left(), yPie, d.área.width(), mEje.height() * 1.2), Qt::AlignCenter,
+               AQ(fig.ejeX));
     yPie += mEje.height() * 1.3;
   }
   if (!fig.ejeY.empty()) {
@@ -333,7 +392,8 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
     const double xEje = marco.left() + d.Px(8) + mEje.height() * 0.5;
     p.translate(xEje, d.área.center().y());
     p.rotate(-90);
-    p.drawText(QRectF(-d.área.height() / 2, -mEje.height() / 2, d.área.height(), mEje.height()), Qt::AlignCenter, AQ(fig.ejeY));
+    p.drawText(QRectF(-d.área.height() / 2, -mEje.height() / 2, d.área.height(), mEje.height()),
+               Qt::AlignCenter, AQ(fig.ejeY));
     p.restore();
   }
 
@@ -343,7 +403,8 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
   const double muestra = d.Px(26), separación = d.Px(18);
   for (const auto& fila : d.filasLeyenda) {
     double ancho = 0;
-    for (std::size_t k : fila) ancho += muestra + d.Px(5) + mLeyenda.horizontalAdvance(d.leyenda[k].texto) + separación;
+    for (std::size_t k : fila)
+      ancho += muestra + d.Px(5) + mLeyenda.horizontalAdvance(d.leyenda[k].texto) + separación;
     double x = marco.center().x() - (ancho - separación) / 2;
     const double yc = yPie + d.altoFilaLeyenda / 2;
     for (std::size_t k : fila) {
@@ -357,11 +418,16 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
         p.setPen(PlumaDeTrazo(t, d));
         p.drawLine(QPointF(x, yc), QPointF(x + muestra, yc));
       } else if (t.marcador.empty()) {
-        DibujarFlecha(p, QPointF(x, yc), QPointF(x + muestra, yc), AColor(t.color), std::max(0.5, t.grosor * d.u * d.s), d.Px(8));
+        DibujarFlecha(p, QPointF(x, yc), QPointF(x + muestra, yc), AColor(t.color),
+                      std::max(0.5, t.grosor * d.u * d.s), d.Px(8));
       }
-      if (!t.marcador.empty()) DibujarMarcador(p, QPointF(x + muestra / 2, yc), t.marcador, d.Px(6), AColor(t.color), d.Px(1));
+      if (!t.marcador.empty())
+        DibujarMarcador(p, QPointF(x + muestra / 2, yc), t.marcador, d.Px(6), AColor(t.color),
+                        d.Px(1));
       p.setPen(Qt::black);
-      p.drawText(QPointF(x + muestra + d.Px(5), yc + mLeyenda.ascent() / 2 - mLeyenda.descent() / 2), d.leyenda[k].texto);
+      p.drawText(
+          QPointF(x + muestra + d.Px(5), yc + mLeyenda.ascent() / 2 - mLeyenda.descent() / 2),
+          d.leyenda[k].texto);
       x += muestra + d.Px(5) + mLeyenda.horizontalAdvance(d.leyenda[k].texto) + separación;
     }
     yPie += d.altoFilaLeyenda;
@@ -369,8 +435,8 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
   p.restore();
 }
 
-bool CoordenadasEnFigura(const Figura& figura, const QRectF& marco, const QPaintDevice* dispositivo, QPointF punto,
-                         double& x, double& y) {
+bool CoordenadasEnFigura(const Figura& figura, const QRectF& marco, const QPaintDevice* dispositivo,
+                         QPointF punto, double& x, double& y) {
   const Disposición d = Disponer(figura, marco, dispositivo);
   if (!d.área.contains(punto)) return false;
   x = d.x0 + (punto.x() - d.área.left()) / d.área.width() * (d.x1 - d.x0);
@@ -387,13 +453,15 @@ bool Fallo(QString* error, const QString& texto) {
 
 bool Abrir(QSaveFile& archivo, QString* error) {
   if (!archivo.open(QIODevice::WriteOnly))
-    return Fallo(error, QStringLiteral("No se pudo escribir el archivo %1: %2").arg(archivo.fileName(), archivo.errorString()));
+    return Fallo(error, QStringLiteral("No se pudo escribir el archivo %1: %2")
+                            .arg(archivo.fileName(), archivo.errorString()));
   return true;
 }
 
 bool Confirmar(QSaveFile& archivo, QString* error) {
   if (!archivo.commit())
-    return Fallo(error, QStringLiteral("No se pudo terminar de escribir el archivo %1: %2").arg(archivo.fileName(), archivo.errorString()));
+    return Fallo(error, QStringLiteral("No se pudo terminar de escribir el archivo %1: %2")
+                            .arg(archivo.fileName(), archivo.errorString()));
   return true;
 }
 
@@ -444,7 +512,8 @@ bool ExportarPDF(const Figura& figura, const QString& ruta, QString* error) {
   {
     QPdfWriter pdf(&archivo);
     pdf.setResolution(600);
-    pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
+    pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
+                                  QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
     pdf.setTitle(QString::fromStdString(figura.título));
     pdf.setCreator(QStringLiteral("Lomaterra"));
     QPainter p;
@@ -463,7 +532,8 @@ bool ExportarFigura(const Figura& figura, const QString& ruta, QString* error) {
   if (ext == QLatin1String("png")) return ExportarPNG(figura, ruta, error);
   if (ext == QLatin1String("svg")) return ExportarSVG(figura, ruta, error);
   if (ext == QLatin1String("pdf")) return ExportarPDF(figura, ruta, error);
-  return Fallo(error, QStringLiteral("El archivo %1 debe terminar en .png, .svg o .pdf.").arg(ruta));
+  return Fallo(error,
+               QStringLiteral("El archivo %1 debe terminar en .png, .svg o .pdf.").arg(ruta));
 }
 
 }  // namespace lomaterra

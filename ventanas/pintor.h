@@ -21,8 +21,10 @@ bool CoordenadasEnFigura(const Figura& figura, const QRectF& marco, const QPaint
 
 // Writes the figure to a file. Nothing is left at `ruta` unless the whole file was written: the
 // text of a failure comes back in `error` (in Spanish) and the function returns false.
-bool ExportarPNG(const Figura& figura, const QString& ruta, QString* error = nullptr, QSize tamaño = QSize(1600, 1100));
-bool ExportarSVG(const Figura& figura, const QString& ruta, QString* error = nullptr, QSize tamaño = QSize(1200, 825));
+bool ExportarPNG(const Figura& figura, const QString& ruta, QString* error = nullptr,
+                 QSize tamaño = QSize(1600, 1100));
+bool ExportarSVG(const Figura& figura, const QString& ruta, QString* error = nullptr,
+                 QSize tamaño = QSize(1200, 825));
 // One A4 page in landscape.
 bool ExportarPDF(const Figura& figura, const QString& ruta, QString* error = nullptr);
 // By the extension of the path: .png, .svg or .pdf.

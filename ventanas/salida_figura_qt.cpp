@@ -37,9 +37,11 @@ void VistaFigura::mouseMoveEvent(QMouseEvent* e) {
   double x = 0, y = 0;
   if (CoordenadasEnFigura(figura_, QRectF(rect()), this, e->position(), x, y))
     alMoverRatón(QStringLiteral("%1 = %2    %3 = %4")
-                     .arg(figura_.tipo == Figura::Tipo::Dibujo ? QStringLiteral("X (m)") : QStringLiteral("x"))
+                     .arg(figura_.tipo == Figura::Tipo::Dibujo ? QStringLiteral("X (m)")
+                                                               : QStringLiteral("x"))
                      .arg(x, 0, 'f', 2)
-                     .arg(figura_.tipo == Figura::Tipo::Dibujo ? QStringLiteral("Y (m)") : QStringLiteral("y"))
+                     .arg(figura_.tipo == Figura::Tipo::Dibujo ? QStringLiteral("Y (m)")
+                                                               : QStringLiteral("y"))
                      .arg(y, 0, 'f', 2));
   else
     alMoverRatón(QString());
@@ -48,13 +50,18 @@ void VistaFigura::mouseMoveEvent(QMouseEvent* e) {
 namespace {
 
 // Asks for a path with the given extension and writes the figure there.
-void Exportar(QWidget* padre, const Figura& figura, const QString& extensión, const QString& filtro) {
-  const QString sugerido = QString::fromStdString(figura.nombre.empty() ? std::string("figura") : figura.nombre) + "." + extensión;
-  QString ruta = QFileDialog::getSaveFileName(padre, QStringLiteral("Exportar la figura"), sugerido, filtro);
+void Exportar(QWidget* padre, const Figura& figura, const QString& extensión,
+              const QString& filtro) {
+  const QString sugerido =
+      QString::fromStdString(figura.nombre.empty() ? std::string("figura") : figura.nombre) + "." +
+      extensión;
+  QString ruta =
+      QFileDialog::getSaveFileName(padre, QStringLiteral("Exportar la figura"), sugerido, filtro);
   if (ruta.isEmpty()) return;
   if (!ruta.endsWith("." + extensión, Qt::CaseInsensitive)) ruta += "." + extensión;
   QString error;
-  if (!ExportarFigura(figura, ruta, &error)) QMessageBox::warning(padre, QStringLiteral("Exportar la figura"), error);
+  if (!ExportarFigura(figura, ruta, &error))
+    QMessageBox::warning(padre, QStringLiteral("Exportar la figura"), error);
 }
 
 void ImprimirFigura(QWidget* padre, const Figura& figura) {
@@ -65,7 +72,8 @@ void ImprimirFigura(QWidget* padre, const Figura& figura) {
   if (diálogo.exec() != QDialog::Accepted) return;
   QPainter p;
   if (!p.begin(&impresora)) {
-    QMessageBox::warning(padre, QStringLiteral("Imprimir"), QStringLiteral("No se pudo imprimir en la impresora elegida."));
+    QMessageBox::warning(padre, QStringLiteral("Imprimir"),
+                         QStringLiteral("No se pudo imprimir en la impresora elegida."));
     return;
   }
   DibujarFigura(p, figura, QRectF(0, 0, impresora.width(), impresora.height()));
@@ -77,7 +85,8 @@ void ImprimirFigura(QWidget* padre, const Figura& figura) {
 QDialog* CrearDiálogoFigura(QWidget* padre, const Figura& figura) {
   auto* d = new QDialog(padre);
   d->setObjectName(QStringLiteral("DiálogoFigura"));
-  d->setWindowTitle(QString::fromStdString(figura.título.empty() ? std::string("Figura") : figura.título));
+  d->setWindowTitle(
+      QString::fromStdString(figura.título.empty() ? std::string("Figura") : figura.título));
   d->setSizeGripEnabled(true);
   auto* vista = new VistaFigura(figura, d);
   auto* coordenadas = new QLabel(d);
@@ -95,10 +104,17 @@ QDialog* CrearDiálogoFigura(QWidget* padre, const Figura& figura) {
   auto* pdf = botón("BotónExportarPDF", QStringLiteral("Exportar PDF..."));
   auto* imprimir = botón("BotónImprimir", QStringLiteral("Imprimir..."));
   auto* cerrar = botón("BotónCerrar", QStringLiteral("Cerrar"));
-  QObject::connect(png, &QPushButton::clicked, d, [d, vista] { Exportar(d, vista->figura(), "png", QStringLiteral("Imágenes PNG (*.png)")); });
-  QObject::connect(svg, &QPushButton::clicked, d, [d, vista] { Exportar(d, vista->figura(), "svg", QStringLiteral("Dibujos SVG (*.svg)")); });
-  QObject::connect(pdf, &QPushButton::clicked, d, [d, vista] { Exportar(d, vista->figura(), "pdf", QStringLiteral("Documentos PDF (*.pdf)")); });
-  QObject::connect(imprimir, &QPushButton::clicked, d, [d, vista] { ImprimirFigura(d, vista->figura()); });
+  QObject::connect(png, &QPushButton::clicked, d, [d, vista] {
+    Exportar(d, vista->figura(), "png", QStringLiteral("Imágenes PNG (*.png)"));
+  });
+  QObject::connect(svg, &QPushButton::clicked, d, [d, vista] {
+    Exportar(d, vista->figura(), "svg", QStringLiteral("Dibujos SVG (*.svg)"));
+  });
+  QObject::connect(pdf, &QPushButton::clicked, d, [d, vista] {
+    Exportar(d, vista->figura(), "pdf", QStringLiteral("Documentos PDF (*.pdf)"));
+  });
+  QObject::connect(imprimir, &QPushButton::clicked, d,
+                   [d, vista] { ImprimirFigura(d, vista->figura()); });
   QObject::connect(cerrar, &QPushButton::clicked, d, &QDialog::accept);
   auto* fila = new QHBoxLayout;
   fila->addWidget(coordenadas);
@@ -118,7 +134,8 @@ void MostrarFiguraQt(QWidget* padre, const Figura& figura) {
 }
 
 void CopiarAlPortapapelesQt(const std::string& texto) {
-  if (auto* portapapeles = QGuiApplication::clipboard()) portapapeles->setText(QString::fromStdString(texto));
+  if (auto* portapapeles = QGuiApplication::clipboard())
+    portapapeles->setText(QString::fromStdString(texto));
 }
 
 void ImprimirInformeQt(QWidget* padre, const Informe& informe) {
@@ -132,7 +149,8 @@ void ImprimirInformeQt(QWidget* padre, const Informe& informe) {
   if (diálogo.exec() != QDialog::Accepted) return;
   QPainter p;
   if (!p.begin(&impresora)) {
-    QMessageBox::warning(padre, QStringLiteral("Imprimir"), QStringLiteral("No se pudo imprimir en la impresora elegida."));
+    QMessageBox::warning(padre, QStringLiteral("Imprimir"),
+                         QStringLiteral("No se pudo imprimir en la impresora elegida."));
     return;
   }
   PintarInforme(informe, impresora, p);

@@ -3,11 +3,10 @@
 // MostrarFigura, CopiarAlPortapapeles and Imprimir here.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include <QDialog>
 #include <QWidget>
+#include <functional>
+#include <string>
 
 #include "salida/figura.h"
 #include "salida/informe.h"

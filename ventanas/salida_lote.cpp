@@ -1,7 +1,6 @@
 #include "salida_lote.h"
 
 #include <QGuiApplication>
-
 #include <cstdlib>
 
 #include "informe_qt.h"
@@ -36,7 +35,8 @@ bool EscribirInformeDeResultados(const Proyecto& p, const std::string& ruta, std
   return true;
 }
 
-bool EscribirFiguraDelMenú(const Proyecto& p, const std::string& nombre, const std::string& ruta, std::string& error) {
+bool EscribirFiguraDelMenú(const Proyecto& p, const std::string& nombre, const std::string& ruta,
+                           std::string& error) {
   const auto& nombres = NombresDeGráficos();
   bool conocido = false;
   for (const auto& n : nombres) conocido |= n == nombre;

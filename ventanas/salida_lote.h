@@ -20,7 +20,8 @@ bool EscribirInformeDeResultados(const Proyecto& p, const std::string& ruta, std
 
 // One figure by its menu control name ("GráficoGeometría", "GráficoEsfuerzoNormalesTotales", ...)
 // to a .png, .svg or .pdf file.
-bool EscribirFiguraDelMenú(const Proyecto& p, const std::string& nombre, const std::string& ruta, std::string& error);
+bool EscribirFiguraDelMenú(const Proyecto& p, const std::string& nombre, const std::string& ruta,
+                           std::string& error);
 
 // Splits the argument of --figura "NOMBRE=ARCHIVO"; false when it has no "=" or an empty side.
 bool LeerArgumentoFigura(const std::string& argumento, std::string& nombre, std::string& ruta);

@@ -24,12 +24,13 @@ struct CampoNumérico {
 const CampoNumérico kCampos[] = {
     {"TextoFSConAnclaje", "Factor de seguridad buscado", &DatosAnclajes::FSConAnclaje, 1.5,
      "Factor de seguridad que se quiere alcanzar con los anclajes"},
-    {"TextoInclinaciónAnclajes", "Inclinación de los anclajes bajo la horizontal (°)", &DatosAnclajes::InclinaciónAnclajes, 15,
+    {"TextoInclinaciónAnclajes", "Inclinación de los anclajes bajo la horizontal (°)",
+     &DatosAnclajes::InclinaciónAnclajes, 15,
      "Ángulo del anclaje hacia abajo, medido desde la horizontal, entre 0 y 90"},
     {"TextoDiámetroAnclajes", "Diámetro de una guaya (mm)", &DatosAnclajes::DiámetroAnclajes, 15.2,
      "Diámetro nominal de un torón o guaya"},
-    {"TextoEsfuerzoRoturaAnclaje", "Esfuerzo de rotura de una guaya (kg/cm2)", &DatosAnclajes::EsfuerzoRoturaAnclaje, 19000,
-     "Esfuerzo de rotura del acero de la guaya"},
+    {"TextoEsfuerzoRoturaAnclaje", "Esfuerzo de rotura de una guaya (kg/cm2)",
+     &DatosAnclajes::EsfuerzoRoturaAnclaje, 19000, "Esfuerzo de rotura del acero de la guaya"},
     {"TextoNúmeroGuayas", "Número de guayas por anclaje", &DatosAnclajes::NúmeroGuayas, 4,
      "Número entero de guayas de cada anclaje"},
 };
@@ -40,10 +41,14 @@ PantallaAnclajes::PantallaAnclajes(Proyecto& p, bool roca) : p_(p), roca_(roca) 
   nombre = roca ? "Form14" : "Form12";
   título = roca ? "Diseño de anclajes - rocas" : "Diseño de anclajes - suelos";
   nota =
-      "La fuerza de anclaje por metro de talud que lleva el último cálculo al factor de seguridad buscado, "
-      "sobre el plano equivalente a la superficie de falla (su cuerda). Anclaje activo (tensado): su "
-      "componente a lo largo de la superficie reduce las fuerzas que mueven la masa. Anclaje pasivo (sin "
-      "tensar): esa componente se suma a la resistencia. Cada anclaje trabaja al 60 % de su carga de rotura.";
+      "La fuerza de anclaje por metro de talud que lleva el último cálculo al factor de seguridad "
+      "buscado, "
+      "sobre el plano equivalente a la superficie de falla (su cuerda). Anclaje activo (tensado): "
+      "su "
+      "componente a lo largo de la superficie reduce las fuerzas que mueven la masa. Anclaje "
+      "pasivo (sin "
+      "tensar): esa componente se suma a la resistencia. Cada anclaje trabaja al 60 % de su carga "
+      "de rotura.";
   botones = {
       {"BotónCalcular", "Calcular", [this](Interfaz& ui) { Calcular(ui); }},
       {"BotónAceptar", "Aceptar", [this](Interfaz& ui) { Aceptar(ui); }},
@@ -56,11 +61,16 @@ void PantallaAnclajes::Activar(Interfaz&) {
   const bool hayDatos = a.FSConAnclaje > 0;
   campos.clear();
   for (const auto& c : kCampos)
-    campos.push_back({c.nombre, c.etiqueta, NúmeroATexto(hayDatos ? a.*(c.valor) : c.sugerido), c.ayuda, false});
-  auto separación = [&](double v) { return hayDatos && v > 0 ? Formato(v, "#0.00") : std::string(); };
-  campos.push_back({"TextoSeparaciónAnclajesActivo", "Separación de anclajes activos (m)", separación(a.SeparaciónAnclajesActivo),
+    campos.push_back(
+        {c.nombre, c.etiqueta, NúmeroATexto(hayDatos ? a.*(c.valor) : c.sugerido), c.ayuda, false});
+  auto separación = [&](double v) {
+    return hayDatos && v > 0 ? Formato(v, "#0.00") : std::string();
+  };
+  campos.push_back({"TextoSeparaciónAnclajesActivo", "Separación de anclajes activos (m)",
+                    separación(a.SeparaciónAnclajesActivo),
                     "Distancia entre anclajes activos a lo largo del talud", true});
-  campos.push_back({"TextoSeparaciónAnclajesPasivo", "Separación de anclajes pasivos (m)", separación(a.SeparaciónAnclajesPasivo),
+  campos.push_back({"TextoSeparaciónAnclajesPasivo", "Separación de anclajes pasivos (m)",
+                    separación(a.SeparaciónAnclajesPasivo),
                     "Distancia entre anclajes pasivos a lo largo del talud", true});
   ListaPantalla pasos;
   pasos.nombre = "ListaCálculoAnclajes";
@@ -83,11 +93,13 @@ bool PantallaAnclajes::Calcular(Interfaz& ui) {
     return false;
   }
   if (d.InclinaciónAnclajes < 0 || d.InclinaciónAnclajes >= 90) {
-    ui.Mensaje("La inclinación de los anclajes debe estar entre 0 y 90 grados bajo la horizontal.", kTítulo);
+    ui.Mensaje("La inclinación de los anclajes debe estar entre 0 y 90 grados bajo la horizontal.",
+               kTítulo);
     return false;
   }
   if (!(d.DiámetroAnclajes > 0) || !(d.EsfuerzoRoturaAnclaje > 0)) {
-    ui.Mensaje("El diámetro y el esfuerzo de rotura de la guaya deben ser mayores que cero.", kTítulo);
+    ui.Mensaje("El diámetro y el esfuerzo de rotura de la guaya deben ser mayores que cero.",
+               kTítulo);
     return false;
   }
   if (d.NúmeroGuayas < 1 || d.NúmeroGuayas != std::floor(d.NúmeroGuayas)) {

@@ -33,17 +33,22 @@ CálculoAnclajes CalcularAnclajes(const Proyecto& p, const DatosAnclajes& a) {
   r.FuerzaMovilizada = D;
   r.ResistenciaDisponible = F * D;
   r.TanFricciónMedia = largo > 0 ? sumaTan / largo : 0;
-  const double dx = d.BordeX.Leer(1) - d.BordeX.Leer(n + 1), dy = d.BordeYFalla.Leer(1) - d.BordeYFalla.Leer(n + 1);
+  const double dx = d.BordeX.Leer(1) - d.BordeX.Leer(n + 1),
+               dy = d.BordeYFalla.Leer(1) - d.BordeYFalla.Leer(n + 1);
   const double psi = std::atan2(dy, dx);
   r.InclinaciónFalla = psi / kGrado;
-  auto paso = [&](const std::string& t, double v, const char* formato = "#0.000") { r.pasos.push_back({t, Formato(v, formato)}); };
+  auto paso = [&](const std::string& t, double v, const char* formato = "#0.000") {
+    r.pasos.push_back({t, Formato(v, formato)});
+  };
   paso("Factor de seguridad del cálculo F", F);
   paso("Fuerza tangencial movilizada D = Σ τ·l (ton/m)", D);
   paso("Resistencia disponible R = F·D (ton/m)", r.ResistenciaDisponible);
   paso("Inclinación de la cuerda de la superficie de falla ψ (°)", r.InclinaciónFalla, "#0.00");
   paso("Fricción media de las bases tan φm", r.TanFricciónMedia, "#0.0000");
   if (!(D > 0) || !std::isfinite(D)) {
-    r.error = "La fuerza tangencial movilizada del cálculo no es positiva: no hay deslizamiento que anclar.";
+    r.error =
+        "La fuerza tangencial movilizada del cálculo no es positiva: no hay deslizamiento que "
+        "anclar.";
     return r;
   }
   if (!(a.FSConAnclaje > F)) {
@@ -59,19 +64,26 @@ CálculoAnclajes CalcularAnclajes(const Proyecto& p, const DatosAnclajes& a) {
   const double divActivo = a.FSConAnclaje * c + s * r.TanFricciónMedia;
   const double divPasivo = c + s * r.TanFricciónMedia;
   if (!(divActivo > 1e-9) || !(divPasivo > 1e-9)) {
-    r.error = "Con esa inclinación los anclajes no aumentan el factor de seguridad: pruebe una inclinación menor.";
+    r.error =
+        "Con esa inclinación los anclajes no aumentan el factor de seguridad: pruebe una "
+        "inclinación menor.";
     return r;
   }
   r.FuerzaActivo = falta / divActivo;
   r.FuerzaPasivo = falta / divPasivo;
-  paso("Fuerza de anclaje activo T = (F'·D − R) / (F'·cos(ψ+θ) + sen(ψ+θ)·tan φm) (ton/m)", r.FuerzaActivo);
-  paso("Fuerza de anclaje pasivo T = (F'·D − R) / (cos(ψ+θ) + sen(ψ+θ)·tan φm) (ton/m)", r.FuerzaPasivo);
+  paso("Fuerza de anclaje activo T = (F'·D − R) / (F'·cos(ψ+θ) + sen(ψ+θ)·tan φm) (ton/m)",
+       r.FuerzaActivo);
+  paso("Fuerza de anclaje pasivo T = (F'·D − R) / (cos(ψ+θ) + sen(ψ+θ)·tan φm) (ton/m)",
+       r.FuerzaPasivo);
   const double área = kPi * std::pow(a.DiámetroAnclajes / 10.0, 2) / 4.0;  // cm2
-  r.CargaPorAnclaje = kFracciónCargaDeDiseño * a.NúmeroGuayas * área * a.EsfuerzoRoturaAnclaje / 1000.0;
+  r.CargaPorAnclaje =
+      kFracciónCargaDeDiseño * a.NúmeroGuayas * área * a.EsfuerzoRoturaAnclaje / 1000.0;
   paso("Área de una guaya π·d²/4 (cm2)", área, "#0.0000");
   paso("Carga de diseño de un anclaje P = 0.6·n·área·fpu (ton)", r.CargaPorAnclaje);
   if (!(r.CargaPorAnclaje > 0) || !std::isfinite(r.CargaPorAnclaje)) {
-    r.error = "La carga de diseño de un anclaje no es positiva: revise el diámetro, el esfuerzo de rotura y el número de guayas.";
+    r.error =
+        "La carga de diseño de un anclaje no es positiva: revise el diámetro, el esfuerzo de "
+        "rotura y el número de guayas.";
     return r;
   }
   r.SeparaciónActivo = r.CargaPorAnclaje / r.FuerzaActivo;

@@ -31,15 +31,15 @@ inline constexpr double kFracciónCargaDeDiseño = 0.6;
 
 struct CálculoAnclajes {
   bool válido = false;
-  std::string error;  // why there is no result, in Spanish
-  double FactorActual = 0;           // F of the last calculation
-  double FuerzaMovilizada = 0;       // D, ton/m
-  double ResistenciaDisponible = 0;  // R = F D, ton/m
-  double InclinaciónFalla = 0;       // ψ, degrees
-  double TanFricciónMedia = 0;       // tan φm
-  double FuerzaActivo = 0, FuerzaPasivo = 0;  // T, ton/m
-  double CargaPorAnclaje = 0;        // P, ton
-  double SeparaciónActivo = 0, SeparaciónPasivo = 0;  // m
+  std::string error;                                       // why there is no result, in Spanish
+  double FactorActual = 0;                                 // F of the last calculation
+  double FuerzaMovilizada = 0;                             // D, ton/m
+  double ResistenciaDisponible = 0;                        // R = F D, ton/m
+  double InclinaciónFalla = 0;                             // ψ, degrees
+  double TanFricciónMedia = 0;                             // tan φm
+  double FuerzaActivo = 0, FuerzaPasivo = 0;               // T, ton/m
+  double CargaPorAnclaje = 0;                              // P, ton
+  double SeparaciónActivo = 0, SeparaciónPasivo = 0;       // m
   std::vector<std::pair<std::string, std::string>> pasos;  // how it got there: caption and value
 };
 

@@ -29,12 +29,12 @@ const char* kEsfuerzo = " (ton/m2)";
 const char* kAbscisa = "Abscisa X del centro de la base (m)";
 
 void NotasDelCálculo(Figura& f, const Proyecto& p) {
-  f.notas.push_back("Método: " + NombreDelMétodo(p) + "    Factor de seguridad: " +
-                    Formato(FactorDeSeguridadFinal(p), "#0.000"));
+  f.notas.push_back("Método: " + NombreDelMétodo(p) +
+                    "    Factor de seguridad: " + Formato(FactorDeSeguridadFinal(p), "#0.000"));
 }
 
-Trazo Serie(const Proyecto& p, const Tabla<double>& columna, const std::string& leyenda, Color color,
-            const std::string& marcador) {
+Trazo Serie(const Proyecto& p, const Tabla<double>& columna, const std::string& leyenda,
+            Color color, const std::string& marcador) {
   Trazo t = SerieContraAbscisa(p, columna);
   t.leyenda = leyenda;
   t.nombre = leyenda;
@@ -44,7 +44,8 @@ Trazo Serie(const Proyecto& p, const Tabla<double>& columna, const std::string& 
   return t;
 }
 
-Figura Gráfico(const Proyecto& p, const std::string& nombre, const std::string& título, const std::string& ejeY) {
+Figura Gráfico(const Proyecto& p, const std::string& nombre, const std::string& título,
+               const std::string& ejeY) {
   Figura f;
   f.tipo = Figura::Tipo::Gráfico;
   f.nombre = nombre;
@@ -56,14 +57,16 @@ Figura Gráfico(const Proyecto& p, const std::string& nombre, const std::string&
 }
 
 Figura ResistenciaContraNormal(const Proyecto& p) {
-  Figura f = Gráfico(p, "GráficoResistenciaAlCorteVsEsfuerzoNormal",
-                     "Resistencia al corte y esfuerzo tangencial movilizado contra esfuerzo normal efectivo",
-                     std::string("Esfuerzo cortante τ") + kEsfuerzo);
+  Figura f = Gráfico(
+      p, "GráficoResistenciaAlCorteVsEsfuerzoNormal",
+      "Resistencia al corte y esfuerzo tangencial movilizado contra esfuerzo normal efectivo",
+      std::string("Esfuerzo cortante τ") + kEsfuerzo);
   f.ejeX = std::string("Esfuerzo normal efectivo σ'") + kEsfuerzo;
   const long n = NúmeroDeDovelas(p);
   const auto& d = p.TablaDovelas;
   const double fs = FactorDeSeguridadFinal(p);
-  const bool mohrCoulomb = p.TipoDeMaterial != "R" || p.ParámetrosIniciales.UsaParámetrosInstantáneos;
+  const bool mohrCoulomb =
+      p.TipoDeMaterial != "R" || p.ParámetrosIniciales.UsaParámetrosInstantáneos;
   std::vector<std::pair<double, double>> resistencia, movilizado;
   std::map<std::pair<double, double>, double> envolventes;  // (c, φ) -> largest σ' on it
   for (long i = 1; i <= n; ++i) {
@@ -85,7 +88,8 @@ Figura ResistenciaContraNormal(const Proyecto& p) {
   ordenar(movilizado);
   Trazo r;
   r.nombre = "resistencia";
-  r.leyenda = mohrCoulomb ? "Resistencia al corte c + σ' tan φ" : "Resistencia al corte (F × τ movilizado)";
+  r.leyenda =
+      mohrCoulomb ? "Resistencia al corte c + σ' tan φ" : "Resistencia al corte (F × τ movilizado)";
   r.color = tonos::Resistencia;
   r.marcador = "cuadrado";
   r.sinLínea = true;
@@ -103,7 +107,8 @@ Figura ResistenciaContraNormal(const Proyecto& p) {
     if (tope <= 0) continue;
     Trazo e;
     e.nombre = "envolvente " + std::to_string(++k);
-    e.leyenda = "c = " + Formato(cf.first, "#0.00") + " ton/m2, φ = " + Formato(cf.second, "#0.0") + "°";
+    e.leyenda =
+        "c = " + Formato(cf.first, "#0.00") + " ton/m2, φ = " + Formato(cf.second, "#0.0") + "°";
     e.color = tonos::Resistencia;
     e.grosor = 1.0;
     e.discontinuo = true;
@@ -137,7 +142,8 @@ Trazo SerieContraAbscisa(const Proyecto& p, const Tabla<double>& columna) {
   const long n = NúmeroDeDovelas(p);
   std::vector<PuntoFigura> v;
   for (long i = 1; i <= n; ++i) v.push_back({p.TablaDovelas.XMedio.Leer(i), columna.Leer(i)});
-  std::stable_sort(v.begin(), v.end(), [](const PuntoFigura& a, const PuntoFigura& b) { return a.x < b.x; });
+  std::stable_sort(v.begin(), v.end(),
+                   [](const PuntoFigura& a, const PuntoFigura& b) { return a.x < b.x; });
   Trazo t;
   t.puntos = std::move(v);
   return t;
@@ -154,15 +160,16 @@ Figura FiguraSecciónConEsfuerzos(const Proyecto& p) {
   if (n < 1 || d.BordeX.Tamaño() <= n || d.BordeYFalla.Tamaño() <= n) return f;
   double mayor = 0;
   for (long i = 1; i <= n; ++i)
-    mayor = std::max({mayor, std::abs(d.EsfuerzoNormalEfectivo.Leer(i)), std::abs(d.EsfuerzoTangencial.Leer(i))});
+    mayor = std::max({mayor, std::abs(d.EsfuerzoNormalEfectivo.Leer(i)),
+                      std::abs(d.EsfuerzoTangencial.Leer(i))});
   if (mayor <= 0) return f;
   // The largest stress is drawn a seventh of the size of the section long. Every stress is
   // constant along its base: the diagram is a row of blocks standing on the bases, the effective
   // normal stress outside the sliding mass and the mobilised shear inside it.
   const double escala = 0.15 * TamañoDeSección(p) / mayor;
   std::vector<Trazo> diagramas;
-  auto diagrama = [&](const Tabla<double>& columna, double lado, Color color, Color relleno, const std::string& leyenda,
-                      const std::string& nombre) {
+  auto diagrama = [&](const Tabla<double>& columna, double lado, Color color, Color relleno,
+                      const std::string& leyenda, const std::string& nombre) {
     Trazo contorno;
     contorno.nombre = nombre;
     contorno.leyenda = leyenda;
@@ -180,20 +187,26 @@ Figura FiguraSecciónConEsfuerzos(const Proyecto& p) {
       const double nx = std::sin(a) * largo, ny = -std::cos(a) * largo;
       contorno.puntos.push_back({d.BordeX[i + 1] + nx, d.BordeYFalla[i + 1] + ny});
       contorno.puntos.push_back({d.BordeX[i] + nx, d.BordeYFalla[i] + ny});
-      const double xm = 0.5 * (d.BordeX[i] + d.BordeX[i + 1]), ym = 0.5 * (d.BordeYFalla[i] + d.BordeYFalla[i + 1]);
+      const double xm = 0.5 * (d.BordeX[i] + d.BordeX[i + 1]),
+                   ym = 0.5 * (d.BordeYFalla[i] + d.BordeYFalla[i + 1]);
       if (n <= 40)
-        f.rótulos.push_back({{xm + 1.15 * nx, ym + 1.15 * ny}, Formato(columna.Leer(i), "#0.00"), color, 7.0, "centro"});
+        f.rótulos.push_back({{xm + 1.15 * nx, ym + 1.15 * ny},
+                             Formato(columna.Leer(i), "#0.00"),
+                             color,
+                             7.0,
+                             "centro"});
     }
     diagramas.push_back(std::move(contorno));
   };
-  diagrama(d.EsfuerzoNormalEfectivo, 1.0, tonos::NormalEfectivo, {205, 232, 250}, "Esfuerzo normal efectivo σ'",
-           "diagrama σ'");
-  diagrama(d.EsfuerzoTangencial, -1.0, tonos::Tangencial, {252, 222, 200}, "Esfuerzo tangencial movilizado τ",
-           "diagrama τ");
+  diagrama(d.EsfuerzoNormalEfectivo, 1.0, tonos::NormalEfectivo, {205, 232, 250},
+           "Esfuerzo normal efectivo σ'", "diagrama σ'");
+  diagrama(d.EsfuerzoTangencial, -1.0, tonos::Tangencial, {252, 222, 200},
+           "Esfuerzo tangencial movilizado τ", "diagrama τ");
   // Under everything else, so that the slices and the failure surface stay in sight.
   f.trazos.insert(f.trazos.begin(), diagramas.begin(), diagramas.end());
-  f.notas.push_back("Escala de esfuerzos: 1 m del dibujo representa " + Formato(1.0 / escala, "#0.00") +
-                    " ton/m2; máximo " + Formato(mayor, "#0.00") + " ton/m2");
+  f.notas.push_back("Escala de esfuerzos: 1 m del dibujo representa " +
+                    Formato(1.0 / escala, "#0.00") + " ton/m2; máximo " + Formato(mayor, "#0.00") +
+                    " ton/m2");
   return f;
 }
 
@@ -204,42 +217,59 @@ Figura FiguraGráfico(const Proyecto& p, const std::string& nombre) {
   if (nombre == "GráficoGeometríaAdaptadaEscalaEsfuerzos") return FiguraSecciónConEsfuerzos(p);
   if (nombre == "GráficoResistenciaAlCorteVsEsfuerzoNormal") return ResistenciaContraNormal(p);
   if (nombre == "GráficoEsfuerzoPrincipalMenor") {
-    Figura f = Gráfico(p, nombre, "Esfuerzo principal menor en la base de las dovelas", "Esfuerzo principal menor σ3" + sigma);
-    f.trazos.push_back(Serie(p, d.EsfuerzoPrincipalMenor, "Esfuerzo principal menor σ3", tonos::Menor, "círculo"));
+    Figura f = Gráfico(p, nombre, "Esfuerzo principal menor en la base de las dovelas",
+                       "Esfuerzo principal menor σ3" + sigma);
+    f.trazos.push_back(
+        Serie(p, d.EsfuerzoPrincipalMenor, "Esfuerzo principal menor σ3", tonos::Menor, "círculo"));
     return f;
   }
   if (nombre == "GráficoEsfuerzoPrincipalMayor") {
-    Figura f = Gráfico(p, nombre, "Esfuerzo principal mayor en la base de las dovelas", "Esfuerzo principal mayor σ1" + sigma);
-    f.trazos.push_back(Serie(p, d.EsfuerzoPrincipalMayor, "Esfuerzo principal mayor σ1", tonos::Mayor, "círculo"));
+    Figura f = Gráfico(p, nombre, "Esfuerzo principal mayor en la base de las dovelas",
+                       "Esfuerzo principal mayor σ1" + sigma);
+    f.trazos.push_back(
+        Serie(p, d.EsfuerzoPrincipalMayor, "Esfuerzo principal mayor σ1", tonos::Mayor, "círculo"));
     return f;
   }
   if (nombre == "GráficoEsfuerzoNormalesTotales") {
-    Figura f = Gráfico(p, nombre, "Esfuerzos normales totales en la base de las dovelas", "Esfuerzo normal total σ" + sigma);
-    f.trazos.push_back(Serie(p, d.EsfuerzoNormalTotal, "Esfuerzo normal total σ", tonos::NormalTotal, "círculo"));
+    Figura f = Gráfico(p, nombre, "Esfuerzos normales totales en la base de las dovelas",
+                       "Esfuerzo normal total σ" + sigma);
+    f.trazos.push_back(
+        Serie(p, d.EsfuerzoNormalTotal, "Esfuerzo normal total σ", tonos::NormalTotal, "círculo"));
     return f;
   }
   if (nombre == "GráficoEsfuerzoNormalesEfectivos") {
-    Figura f = Gráfico(p, nombre, "Esfuerzos normales efectivos en la base de las dovelas", "Esfuerzo normal efectivo σ'" + sigma);
-    f.trazos.push_back(Serie(p, d.EsfuerzoNormalEfectivo, "Esfuerzo normal efectivo σ'", tonos::NormalEfectivo, "círculo"));
+    Figura f = Gráfico(p, nombre, "Esfuerzos normales efectivos en la base de las dovelas",
+                       "Esfuerzo normal efectivo σ'" + sigma);
+    f.trazos.push_back(Serie(p, d.EsfuerzoNormalEfectivo, "Esfuerzo normal efectivo σ'",
+                             tonos::NormalEfectivo, "círculo"));
     return f;
   }
   if (nombre == "GráficoEsfuerzosTangencialesMovilizados") {
-    Figura f = Gráfico(p, nombre, "Esfuerzos tangenciales movilizados en la base de las dovelas", "Esfuerzo tangencial τ" + sigma);
-    f.trazos.push_back(Serie(p, d.EsfuerzoTangencial, "Esfuerzo tangencial movilizado τ", tonos::Tangencial, "círculo"));
+    Figura f = Gráfico(p, nombre, "Esfuerzos tangenciales movilizados en la base de las dovelas",
+                       "Esfuerzo tangencial τ" + sigma);
+    f.trazos.push_back(Serie(p, d.EsfuerzoTangencial, "Esfuerzo tangencial movilizado τ",
+                             tonos::Tangencial, "círculo"));
     return f;
   }
   if (nombre == "GráficoEsfuerzosNormalesTotalesEfectivosTangenciales") {
-    Figura f = Gráfico(p, nombre, "Esfuerzos normales totales, efectivos y tangenciales en la base de las dovelas",
-                       "Esfuerzo" + sigma);
-    f.trazos.push_back(Serie(p, d.EsfuerzoNormalTotal, "Esfuerzo normal total σ", tonos::NormalTotal, "círculo"));
-    f.trazos.push_back(Serie(p, d.EsfuerzoNormalEfectivo, "Esfuerzo normal efectivo σ'", tonos::NormalEfectivo, "cuadrado"));
-    f.trazos.push_back(Serie(p, d.EsfuerzoTangencial, "Esfuerzo tangencial movilizado τ", tonos::Tangencial, "triángulo"));
+    Figura f = Gráfico(
+        p, nombre, "Esfuerzos normales totales, efectivos y tangenciales en la base de las dovelas",
+        "Esfuerzo" + sigma);
+    f.trazos.push_back(
+        Serie(p, d.EsfuerzoNormalTotal, "Esfuerzo normal total σ", tonos::NormalTotal, "círculo"));
+    f.trazos.push_back(Serie(p, d.EsfuerzoNormalEfectivo, "Esfuerzo normal efectivo σ'",
+                             tonos::NormalEfectivo, "cuadrado"));
+    f.trazos.push_back(Serie(p, d.EsfuerzoTangencial, "Esfuerzo tangencial movilizado τ",
+                             tonos::Tangencial, "triángulo"));
     return f;
   }
   if (nombre == "GráficoDeEsfuerzosPrincipales") {
-    Figura f = Gráfico(p, nombre, "Esfuerzos principales contra abscisas", "Esfuerzo principal" + sigma);
-    f.trazos.push_back(Serie(p, d.EsfuerzoPrincipalMayor, "Esfuerzo principal mayor σ1", tonos::Mayor, "círculo"));
-    f.trazos.push_back(Serie(p, d.EsfuerzoPrincipalMenor, "Esfuerzo principal menor σ3", tonos::Menor, "cuadrado"));
+    Figura f =
+        Gráfico(p, nombre, "Esfuerzos principales contra abscisas", "Esfuerzo principal" + sigma);
+    f.trazos.push_back(
+        Serie(p, d.EsfuerzoPrincipalMayor, "Esfuerzo principal mayor σ1", tonos::Mayor, "círculo"));
+    f.trazos.push_back(Serie(p, d.EsfuerzoPrincipalMenor, "Esfuerzo principal menor σ3",
+                             tonos::Menor, "cuadrado"));
     return f;
   }
   return Figura{};

@@ -57,7 +57,8 @@ std::vector<std::string> PartirTexto(const std::string& texto, int ancho) {
   std::size_t inicio = 0;
   while (inicio <= texto.size()) {
     const std::size_t fin = texto.find('\n', inicio);
-    const std::string párrafo = texto.substr(inicio, fin == std::string::npos ? std::string::npos : fin - inicio);
+    const std::string párrafo =
+        texto.substr(inicio, fin == std::string::npos ? std::string::npos : fin - inicio);
     std::string línea;
     for (std::string palabra : Palabras(párrafo)) {
       while (Caracteres(palabra) > ancho) {
@@ -70,8 +71,10 @@ std::vector<std::string> PartirTexto(const std::string& texto, int ancho) {
         palabra = palabra.substr(trozo.size());
       }
       if (palabra.empty()) continue;
-      if (línea.empty()) línea = palabra;
-      else if (Caracteres(línea) + 1 + Caracteres(palabra) <= ancho) línea += " " + palabra;
+      if (línea.empty())
+        línea = palabra;
+      else if (Caracteres(línea) + 1 + Caracteres(palabra) <= ancho)
+        línea += " " + palabra;
       else {
         líneas.push_back(línea);
         línea = palabra;
@@ -116,14 +119,19 @@ namespace {
 // two rows, a paragraph two lines.
 int Arranque(const BloqueInforme& b, const MedidasPágina& m) {
   switch (b.tipo) {
-    case BloqueInforme::Tipo::Figura: return std::min(std::max(m.líneasFigura, 5), m.líneas);
+    case BloqueInforme::Tipo::Figura:
+      return std::min(std::max(m.líneasFigura, 5), m.líneas);
     case BloqueInforme::Tipo::Tabla:
-      return 1 + LíneasEncabezado(b.tabla, m.caracteres) + static_cast<int>(std::min<std::size_t>(b.tabla.filas.size(), 2));
+      return 1 + LíneasEncabezado(b.tabla, m.caracteres) +
+             static_cast<int>(std::min<std::size_t>(b.tabla.filas.size(), 2));
     case BloqueInforme::Tipo::Párrafo:
       return static_cast<int>(std::min<std::size_t>(PartirTexto(b.texto, m.caracteres).size(), 2));
-    case BloqueInforme::Tipo::Título: return 3;
-    case BloqueInforme::Tipo::Subtítulo: return 2;
-    case BloqueInforme::Tipo::SaltoDePágina: return 0;
+    case BloqueInforme::Tipo::Título:
+      return 3;
+    case BloqueInforme::Tipo::Subtítulo:
+      return 2;
+    case BloqueInforme::Tipo::SaltoDePágina:
+      return 0;
   }
   return 0;
 }
@@ -156,7 +164,8 @@ std::vector<PáginaInforme> Paginar(const Informe& informe, const MedidasPágina
         const bool título = b.tipo == BloqueInforme::Tipo::Título;
         const int alto = título ? 3 : 2;
         // A heading keeps on its page the start of what follows it.
-        const int siguiente = k + 1 < informe.bloques.size() ? Arranque(informe.bloques[k + 1], m) : 0;
+        const int siguiente =
+            k + 1 < informe.bloques.size() ? Arranque(informe.bloques[k + 1], m) : 0;
         if (usadas > 0 && usadas + alto + siguiente > L) nueva();
         poner({título ? E::Título : E::Subtítulo, b.texto, k, -1, alto});
         break;
@@ -205,14 +214,17 @@ std::vector<PáginaInforme> Paginar(const Informe& informe, const MedidasPágina
 
 namespace {
 
-std::string N(double v, const char* formato = "#0.00") { return std::isfinite(v) ? Formato(v, formato) : "---"; }
+std::string N(double v, const char* formato = "#0.00") {
+  return std::isfinite(v) ? Formato(v, formato) : "---";
+}
 
 std::vector<std::string> Encabezado(const Proyecto& p) {
   const auto& i = p.InformaciónProyecto;
   std::vector<std::string> r;
-  r.push_back("Proyecto: " + (p.Ventana.TextoProyecto.empty() ? std::string("(sin descripción)") : p.Ventana.TextoProyecto));
-  r.push_back("Progresiva inicial: " + i.ProgresivaInicial + "    Progresiva final: " + i.ProgresivaFinal +
-              "    Fecha: " + i.FechaProyecto);
+  r.push_back("Proyecto: " + (p.Ventana.TextoProyecto.empty() ? std::string("(sin descripción)")
+                                                              : p.Ventana.TextoProyecto));
+  r.push_back("Progresiva inicial: " + i.ProgresivaInicial +
+              "    Progresiva final: " + i.ProgresivaFinal + "    Fecha: " + i.FechaProyecto);
   r.push_back("Ingeniero responsable: " + i.IngResponsable + "    Empresa: " + i.Empresa);
   return r;
 }
@@ -221,7 +233,8 @@ TablaDeTexto TablaCoordenadas(const std::string& título, const TablaXY& t, long
   TablaDeTexto r;
   r.título = título;
   r.columnas = {"Punto", "X (m)", "Y (m)"};
-  for (long i = 1; i <= n; ++i) r.filas.push_back({std::to_string(i), N(t.X.Leer(i)), N(t.Y.Leer(i))});
+  for (long i = 1; i <= n; ++i)
+    r.filas.push_back({std::to_string(i), N(t.X.Leer(i)), N(t.Y.Leer(i))});
   return r;
 }
 
@@ -240,11 +253,13 @@ std::string TextoMaterial(const std::string& t) {
 void Geometría(Informe& inf, const Proyecto& p) {
   inf.Subtítulo("Geometría");
   if (p.NúmeroPuntosTalud > 0)
-    inf.AñadirTabla(TablaCoordenadas("Coordenadas del talud, presa o túnel", p.CoordenadasTalud, p.NúmeroPuntosTalud));
+    inf.AñadirTabla(TablaCoordenadas("Coordenadas del talud, presa o túnel", p.CoordenadasTalud,
+                                     p.NúmeroPuntosTalud));
   else
     inf.Párrafo("No hay coordenadas del talud.");
   if (p.NúmeroPuntosFalla > 0)
-    inf.AñadirTabla(TablaCoordenadas("Coordenadas de la superficie de falla", p.CoordenadasFalla, p.NúmeroPuntosFalla));
+    inf.AñadirTabla(TablaCoordenadas("Coordenadas de la superficie de falla", p.CoordenadasFalla,
+                                     p.NúmeroPuntosFalla));
   else
     inf.Párrafo("No hay coordenadas de la superficie de falla.");
   if (p.NúmeroTramosFalla > 0) {
@@ -253,14 +268,18 @@ void Geometría(Informe& inf, const Proyecto& p) {
     t.columnas = {"Tramo", "Punto inicial", "Punto final", "Unión"};
     for (long k = 1; k <= p.NúmeroTramosFalla; ++k) {
       const std::string u = p.TramoFalla.TipoUnión.Leer(k);
-      const std::string nombre = u == "L" ? "L (rectas)" : u == "C" ? "C (arco circular)" : u == "P" ? "P (polinomio)" : u;
+      const std::string nombre = u == "L"   ? "L (rectas)"
+                                 : u == "C" ? "C (arco circular)"
+                                 : u == "P" ? "P (polinomio)"
+                                            : u;
       t.filas.push_back({std::to_string(k), N(p.TramoFalla.PuntoInicial.Leer(k), "#"),
                          N(p.TramoFalla.PuntoFinal.Leer(k), "#"), nombre});
     }
     inf.AñadirTabla(t);
   }
   if (p.NúmeroPuntosFreático > 0)
-    inf.AñadirTabla(TablaCoordenadas("Coordenadas del nivel freático", p.CoordenadasFreático, p.NúmeroPuntosFreático));
+    inf.AñadirTabla(TablaCoordenadas("Coordenadas del nivel freático", p.CoordenadasFreático,
+                                     p.NúmeroPuntosFreático));
   else
     inf.Párrafo("No hay nivel freático.");
   for (long s = 1; s <= p.NúmeroEstratos; ++s) {
@@ -283,21 +302,40 @@ void Estratos(Informe& inf, const Proyecto& p) {
   TablaDeTexto t;
   t.título = "Estratos";
   if (p.TipoDeMaterial == "R") {
-    t.columnas = {"Estrato", "mi", "GSI", "m macizo", "s macizo", "γ húmedo (ton/m3)", "γ saturado (ton/m3)",
-                  "σci (kg/cm2)", "Cohesión (ton/m2)", "Fricción (°)"};
+    t.columnas = {"Estrato",
+                  "mi",
+                  "GSI",
+                  "m macizo",
+                  "s macizo",
+                  "γ húmedo (ton/m3)",
+                  "γ saturado (ton/m3)",
+                  "σci (kg/cm2)",
+                  "Cohesión (ton/m2)",
+                  "Fricción (°)"};
     for (long s = 1; s <= p.NúmeroEstratos; ++s)
-      t.filas.push_back({std::to_string(s), N(e.m_intacta.Leer(s)), N(e.Parámetro_GSI.Leer(s), "#0.0"),
-                         N(e.m_macizo.Leer(s), "#0.0000"), N(e.s_macizo.Leer(s), "#0.000000"),
-                         N(e.PesoUnitarioHúmedo.Leer(s), "#0.000"), N(e.PesoUnitarioSaturado.Leer(s), "#0.000"),
-                         N(e.C_Simple.Leer(s)), N(e.Cohesión.Leer(s)), N(e.Fricción.Leer(s))});
+      t.filas.push_back(
+          {std::to_string(s), N(e.m_intacta.Leer(s)), N(e.Parámetro_GSI.Leer(s), "#0.0"),
+           N(e.m_macizo.Leer(s), "#0.0000"), N(e.s_macizo.Leer(s), "#0.000000"),
+           N(e.PesoUnitarioHúmedo.Leer(s), "#0.000"), N(e.PesoUnitarioSaturado.Leer(s), "#0.000"),
+           N(e.C_Simple.Leer(s)), N(e.Cohesión.Leer(s)), N(e.Fricción.Leer(s))});
   } else {
-    t.columnas = {"Estrato", "Cohesión (ton/m2)", "Fricción (°)", "γ húmedo (ton/m3)", "γ saturado (ton/m3)",
-                  "Tipo", "Parámetro de presión B", "Cv (cm2/s)", "Tiempo de construcción (meses)"};
+    t.columnas = {"Estrato",
+                  "Cohesión (ton/m2)",
+                  "Fricción (°)",
+                  "γ húmedo (ton/m3)",
+                  "γ saturado (ton/m3)",
+                  "Tipo",
+                  "Parámetro de presión B",
+                  "Cv (cm2/s)",
+                  "Tiempo de construcción (meses)"};
     for (long s = 1; s <= p.NúmeroEstratos; ++s)
       t.filas.push_back({std::to_string(s), N(e.Cohesión.Leer(s)), N(e.Fricción.Leer(s)),
-                         N(e.PesoUnitarioHúmedo.Leer(s), "#0.000"), N(e.PesoUnitarioSaturado.Leer(s), "#0.000"),
-                         e.TipoEstrato.Leer(s) == 1 ? "A (relleno)" : "B (natural)", N(e.ParámetroPresión.Leer(s), "#0.000"),
-                         N(e.CoeficienteConsolidaciónVertical.Leer(s), "#0.000000"), N(e.TiempoDeConstrucción.Leer(s))});
+                         N(e.PesoUnitarioHúmedo.Leer(s), "#0.000"),
+                         N(e.PesoUnitarioSaturado.Leer(s), "#0.000"),
+                         e.TipoEstrato.Leer(s) == 1 ? "A (relleno)" : "B (natural)",
+                         N(e.ParámetroPresión.Leer(s), "#0.000"),
+                         N(e.CoeficienteConsolidaciónVertical.Leer(s), "#0.000000"),
+                         N(e.TiempoDeConstrucción.Leer(s))});
   }
   inf.AñadirTabla(t);
 }
@@ -310,8 +348,8 @@ void Cargas(Informe& inf, const Proyecto& p) {
     t.columnas = {"Carga", "xo (m)", "yo (m)", "xf (m)", "yf (m)", "qx (ton/m2)", "qy (ton/m2)"};
     const auto& c = p.CargaUniforme;
     for (long k = 1; k <= p.NúmeroCargasUniformes; ++k)
-      t.filas.push_back({std::to_string(k), N(c.xo.Leer(k)), N(c.yo.Leer(k)), N(c.xf.Leer(k)), N(c.yf.Leer(k)),
-                         N(c.qx.Leer(k)), N(c.qy.Leer(k))});
+      t.filas.push_back({std::to_string(k), N(c.xo.Leer(k)), N(c.yo.Leer(k)), N(c.xf.Leer(k)),
+                         N(c.yf.Leer(k)), N(c.qx.Leer(k)), N(c.qy.Leer(k))});
     inf.AñadirTabla(t);
   } else {
     inf.Párrafo("No hay cargas uniformemente distribuidas.");
@@ -322,7 +360,8 @@ void Cargas(Informe& inf, const Proyecto& p) {
     t.columnas = {"Carga", "X (m)", "Y (m)", "Px (ton/m)", "Py (ton/m)"};
     const auto& c = p.CargaPuntual;
     for (long k = 1; k <= p.NúmeroCargasPuntuales; ++k)
-      t.filas.push_back({std::to_string(k), N(c.Xpuntual.Leer(k)), N(c.Ypuntual.Leer(k)), N(c.Px.Leer(k)), N(c.Py.Leer(k))});
+      t.filas.push_back({std::to_string(k), N(c.Xpuntual.Leer(k)), N(c.Ypuntual.Leer(k)),
+                         N(c.Px.Leer(k)), N(c.Py.Leer(k))});
     inf.AñadirTabla(t);
   } else {
     inf.Párrafo("No hay cargas puntuales.");
@@ -339,12 +378,14 @@ void Parámetros(Informe& inf, const Proyecto& p) {
   TablaDeTexto t;
   t.título = "Parámetros de cálculo";
   t.columnas = {"Parámetro", "Valor"};
-  t.filas.push_back({"Método de cálculo", std::to_string(c.MétodoDeCálculo) + " - " + NombreDelMétodo(p)});
+  t.filas.push_back(
+      {"Método de cálculo", std::to_string(c.MétodoDeCálculo) + " - " + NombreDelMétodo(p)});
   t.filas.push_back({"Factor de seguridad inicial", N(c.FSInicial, "#0.000")});
   if (c.MétodoDeCálculo == 1) {
     t.filas.push_back({"Multiplicador de Lagrange µ1", N(c.Multiplicador1, "#0.000000")});
     t.filas.push_back({"Multiplicador de Lagrange µ2", N(c.Multiplicador2, "#0.000000")});
-    if (p.TipoDeMaterial != "R") t.filas.push_back({"Esfuerzo inicial en la cresta (ton/m2)", N(c.EsfuerzoInicialCresta)});
+    if (p.TipoDeMaterial != "R")
+      t.filas.push_back({"Esfuerzo inicial en la cresta (ton/m2)", N(c.EsfuerzoInicialCresta)});
   }
   if (p.SuperficieCircular()) {
     t.filas.push_back({"Radio de la superficie circular (m)", N(c.Radio)});
@@ -354,12 +395,16 @@ void Parámetros(Informe& inf, const Proyecto& p) {
     t.filas.push_back({"Referencia de momentos Y (m)", N(c.ReferenciaMomentoY)});
   }
   t.filas.push_back({"Número de dovelas", N(c.NúmeroDovelas, "#")});
-  t.filas.push_back({"Coeficiente sísmico horizontal kh", N(c.CoeficienteSísmicoHorizontal, "#0.000")});
+  t.filas.push_back(
+      {"Coeficiente sísmico horizontal kh", N(c.CoeficienteSísmicoHorizontal, "#0.000")});
   t.filas.push_back({"Coeficiente sísmico vertical kv", N(c.CoeficienteSísmicoVertical, "#0.000")});
-  t.filas.push_back({"Parámetros instantáneos", c.ParámetrosInstantáneos == 0 ? std::string("No") : std::to_string(c.ParámetrosInstantáneos)});
+  t.filas.push_back({"Parámetros instantáneos", c.ParámetrosInstantáneos == 0
+                                                    ? std::string("No")
+                                                    : std::to_string(c.ParámetrosInstantáneos)});
   inf.AñadirTabla(t);
   const auto& g = p.GrietaTracción;
-  const bool grieta = g.OrdenadaPrimerPunto != g.OrdenadaSegundoPunto || g.AbscisaPrimerPunto != g.AbscisaSegundoPunto;
+  const bool grieta = g.OrdenadaPrimerPunto != g.OrdenadaSegundoPunto ||
+                      g.AbscisaPrimerPunto != g.AbscisaSegundoPunto;
   if (!grieta) {
     inf.Párrafo("No hay grieta de tracción.");
     return;
@@ -367,11 +412,15 @@ void Parámetros(Informe& inf, const Proyecto& p) {
   TablaDeTexto gt;
   gt.título = "Grieta de tracción";
   gt.columnas = {"Punto", "X (m)", "Y (m)"};
-  gt.filas.push_back({"Primer punto (superior)", N(g.AbscisaPrimerPunto), N(g.OrdenadaPrimerPunto)});
-  gt.filas.push_back({"Segundo punto (inferior)", N(g.AbscisaSegundoPunto), N(g.OrdenadaSegundoPunto)});
-  if (g.OrdenadaNF > 0) gt.filas.push_back({"Nivel del agua en la grieta", N(g.AbscisaNF), N(g.OrdenadaNF)});
+  gt.filas.push_back(
+      {"Primer punto (superior)", N(g.AbscisaPrimerPunto), N(g.OrdenadaPrimerPunto)});
+  gt.filas.push_back(
+      {"Segundo punto (inferior)", N(g.AbscisaSegundoPunto), N(g.OrdenadaSegundoPunto)});
+  if (g.OrdenadaNF > 0)
+    gt.filas.push_back({"Nivel del agua en la grieta", N(g.AbscisaNF), N(g.OrdenadaNF)});
   inf.AñadirTabla(gt);
-  if (g.OrdenadaNF > 0) inf.Párrafo("Empuje del agua en la grieta: " + N(g.EmpujeGrieta) + " ton/m.");
+  if (g.OrdenadaNF > 0)
+    inf.Párrafo("Empuje del agua en la grieta: " + N(g.EmpujeGrieta) + " ton/m.");
 }
 
 // The slice table in parts of at most `columnas` columns each, the slice number repeated.
@@ -382,7 +431,8 @@ std::vector<TablaDeTexto> Partes(const TablaDeTexto& t, std::size_t columnas) {
   for (std::size_t k = 0; k < partes; ++k) {
     TablaDeTexto parte;
     parte.título = t.título + " (" + std::to_string(k + 1) + " de " + std::to_string(partes) + ")";
-    const std::size_t desde = 1 + k * columnas, hasta = std::min(t.columnas.size(), desde + columnas);
+    const std::size_t desde = 1 + k * columnas,
+                      hasta = std::min(t.columnas.size(), desde + columnas);
     parte.columnas.push_back(t.columnas[0]);
     for (std::size_t j = desde; j < hasta; ++j) parte.columnas.push_back(t.columnas[j]);
     for (const auto& f : t.filas) {
@@ -415,7 +465,8 @@ Informe InformeDeDatos(const Proyecto& p) {
              {"Empresa", i.Empresa},
              {"Tipo de análisis", TextoTipoDeAnálisis(p.TipoDeAnálisis)},
              {"Material", TextoMaterial(p.TipoDeMaterial)},
-             {"Archivo", p.Ventana.NombreArchivo.empty() ? std::string("(sin guardar)") : p.Ventana.NombreArchivo}};
+             {"Archivo", p.Ventana.NombreArchivo.empty() ? std::string("(sin guardar)")
+                                                         : p.Ventana.NombreArchivo}};
   inf.AñadirTabla(t);
   Geometría(inf, p);
   Estratos(inf, p);
@@ -441,8 +492,10 @@ Informe InformeDeResultados(const Proyecto& p) {
                         (p.TipoDeMaterial == "R" ? std::string("roca") : std::string("suelo")) +
                         ". Número de dovelas: " + std::to_string(NúmeroDeDovelas(p)) + ".";
   if (p.DesembalseRápido) resumen += " Análisis de desembalse rápido.";
-  if (p.ParámetrosIniciales.CoeficienteSísmicoHorizontal != 0 || p.ParámetrosIniciales.CoeficienteSísmicoVertical != 0)
-    resumen += " Coeficientes sísmicos kh = " + N(p.ParámetrosIniciales.CoeficienteSísmicoHorizontal, "#0.000") +
+  if (p.ParámetrosIniciales.CoeficienteSísmicoHorizontal != 0 ||
+      p.ParámetrosIniciales.CoeficienteSísmicoVertical != 0)
+    resumen += " Coeficientes sísmicos kh = " +
+               N(p.ParámetrosIniciales.CoeficienteSísmicoHorizontal, "#0.000") +
                ", kv = " + N(p.ParámetrosIniciales.CoeficienteSísmicoVertical, "#0.000") + ".";
   inf.Párrafo(resumen);
   inf.Subtítulo("Factor de seguridad: " + N(FactorDeSeguridadFinal(p), "#0.000"));
@@ -471,7 +524,8 @@ Informe InformeDeResultados(const Proyecto& p) {
   inf.AñadirFigura(FiguraSecciónConEsfuerzos(p));
   inf.AñadirFigura(FiguraGráfico(p, "GráficoEsfuerzosNormalesTotalesEfectivosTangenciales"));
   inf.AñadirFigura(FiguraGráfico(p, "GráficoResistenciaAlCorteVsEsfuerzoNormal"));
-  if (HayEsfuerzosPrincipales(p)) inf.AñadirFigura(FiguraGráfico(p, "GráficoDeEsfuerzosPrincipales"));
+  if (HayEsfuerzosPrincipales(p))
+    inf.AñadirFigura(FiguraGráfico(p, "GráficoDeEsfuerzosPrincipales"));
   return inf;
 }
 

@@ -21,15 +21,24 @@ struct BloqueInforme {
 };
 
 struct Informe {
-  std::string título;                    // on the first page and in every page header
-  std::vector<std::string> encabezado;   // page header lines: project, stations, date, engineer, company
+  std::string título;  // on the first page and in every page header
+  std::vector<std::string>
+      encabezado;  // page header lines: project, stations, date, engineer, company
   std::vector<BloqueInforme> bloques;
 
   void Título(const std::string& t) { bloques.push_back({BloqueInforme::Tipo::Título, t, {}, {}}); }
-  void Subtítulo(const std::string& t) { bloques.push_back({BloqueInforme::Tipo::Subtítulo, t, {}, {}}); }
-  void Párrafo(const std::string& t) { bloques.push_back({BloqueInforme::Tipo::Párrafo, t, {}, {}}); }
-  void AñadirTabla(const TablaDeTexto& t) { bloques.push_back({BloqueInforme::Tipo::Tabla, "", t, {}}); }
-  void AñadirFigura(const Figura& f) { bloques.push_back({BloqueInforme::Tipo::Figura, "", {}, f}); }
+  void Subtítulo(const std::string& t) {
+    bloques.push_back({BloqueInforme::Tipo::Subtítulo, t, {}, {}});
+  }
+  void Párrafo(const std::string& t) {
+    bloques.push_back({BloqueInforme::Tipo::Párrafo, t, {}, {}});
+  }
+  void AñadirTabla(const TablaDeTexto& t) {
+    bloques.push_back({BloqueInforme::Tipo::Tabla, "", t, {}});
+  }
+  void AñadirFigura(const Figura& f) {
+    bloques.push_back({BloqueInforme::Tipo::Figura, "", {}, f});
+  }
   void SaltoDePágina() { bloques.push_back({BloqueInforme::Tipo::SaltoDePágina, "", {}, {}}); }
 };
 

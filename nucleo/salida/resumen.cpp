@@ -8,7 +8,9 @@
 
 namespace lomaterra {
 
-long NúmeroDeDovelas(const Proyecto& p) { return p.NúmeroBordes > 1 ? p.NúmeroBordes - 1 : 0; }
+long NúmeroDeDovelas(const Proyecto& p) {
+  return p.NúmeroBordes > 1 ? p.NúmeroBordes - 1 : 0;
+}
 
 double FactorDeSeguridadFinal(const Proyecto& p) {
   if (p.NúmeroIteraciones < 1) return 0;
@@ -30,11 +32,16 @@ std::string NombreDelMétodo(const Proyecto& p) {
   const bool roca = p.TipoDeMaterial == "R";
   switch (p.ParámetrosIniciales.MétodoDeCálculo) {
     case 1:
-      return roca ? "Dov Leshchinsky - Ching y Hoek - Brown (m, s)" : "Dov Leshchinsky y Ching-Chuan Huang";
-    case 2: return "Bishop A. W.";
-    case 3: return "Fellenius W.";
-    case 4: return roca ? "Janbu aplicado a rocas" : "Janbu";
-    default: return "sin método";
+      return roca ? "Dov Leshchinsky - Ching y Hoek - Brown (m, s)"
+                  : "Dov Leshchinsky y Ching-Chuan Huang";
+    case 2:
+      return "Bishop A. W.";
+    case 3:
+      return "Fellenius W.";
+    case 4:
+      return roca ? "Janbu aplicado a rocas" : "Janbu";
+    default:
+      return "sin método";
   }
 }
 
@@ -53,12 +60,14 @@ bool HayEsfuerzosPrincipales(const Proyecto& p) {
 
 double LongitudBase(const Proyecto& p, long i) {
   const auto& d = p.TablaDovelas;
-  return std::hypot(d.BordeX.Leer(i) - d.BordeX.Leer(i + 1), d.BordeYFalla.Leer(i) - d.BordeYFalla.Leer(i + 1));
+  return std::hypot(d.BordeX.Leer(i) - d.BordeX.Leer(i + 1),
+                    d.BordeYFalla.Leer(i) - d.BordeYFalla.Leer(i + 1));
 }
 
 double InclinaciónBase(const Proyecto& p, long i) {
   const auto& d = p.TablaDovelas;
-  return std::atan2(d.BordeYFalla.Leer(i) - d.BordeYFalla.Leer(i + 1), d.BordeX.Leer(i) - d.BordeX.Leer(i + 1));
+  return std::atan2(d.BordeYFalla.Leer(i) - d.BordeYFalla.Leer(i + 1),
+                    d.BordeX.Leer(i) - d.BordeX.Leer(i + 1));
 }
 
 namespace {
@@ -69,7 +78,8 @@ struct ColumnaDovela {
   std::string formato;
 };
 
-ColumnaDovela De(std::string título, Tabla<double> TablaDeDovelas::*c, std::string formato = "#0.00") {
+ColumnaDovela De(std::string título, Tabla<double> TablaDeDovelas::*c,
+                 std::string formato = "#0.00") {
   return {std::move(título), [c](const Proyecto& p, long i) { return (p.TablaDovelas.*c).Leer(i); },
           std::move(formato)};
 }
@@ -89,8 +99,12 @@ std::vector<ColumnaDovela> ColumnasDeDovelas(const Proyecto& p) {
   si(d.YTalud, De("Y talud (m)", &D::YTalud));
   si(d.YBase, De("Y base (m)", &D::YBase));
   si(d.YFreático, De("Y freático (m)", &D::YFreático));
-  r.push_back({"Ángulo base (°)", [](const Proyecto& q, long i) { return InclinaciónBase(q, i) * 45.0 / std::atan(1.0); }, "#0.00"});
-  r.push_back({"Longitud base (m)", [](const Proyecto& q, long i) { return LongitudBase(q, i); }, "#0.00"});
+  r.push_back(
+      {"Ángulo base (°)",
+       [](const Proyecto& q, long i) { return InclinaciónBase(q, i) * 45.0 / std::atan(1.0); },
+       "#0.00"});
+  r.push_back(
+      {"Longitud base (m)", [](const Proyecto& q, long i) { return LongitudBase(q, i); }, "#0.00"});
   si(d.PesoUnitarioMedio, De("Peso unitario medio (ton/m3)", &D::PesoUnitarioMedio, "#0.000"));
   si(d.PresiónPoros, De("Presión de poros u (ton/m2)", &D::PresiónPoros));
   if (!roca || p.ParámetrosIniciales.UsaParámetrosInstantáneos) {
@@ -107,11 +121,14 @@ std::vector<ColumnaDovela> ColumnasDeDovelas(const Proyecto& p) {
   }
   if (ColumnaLlena(d.FuerzaNormal, n)) r.push_back(De("Fuerza normal N (ton/m)", &D::FuerzaNormal));
   si(d.EsfuerzoNormalTotal, De("Esfuerzo normal total σ (ton/m2)", &D::EsfuerzoNormalTotal));
-  si(d.EsfuerzoNormalEfectivo, De("Esfuerzo normal efectivo σ' (ton/m2)", &D::EsfuerzoNormalEfectivo));
+  si(d.EsfuerzoNormalEfectivo,
+     De("Esfuerzo normal efectivo σ' (ton/m2)", &D::EsfuerzoNormalEfectivo));
   si(d.EsfuerzoTangencial, De("Esfuerzo tangencial movilizado τ (ton/m2)", &D::EsfuerzoTangencial));
   if (roca || HayEsfuerzosPrincipales(p)) {
-    si(d.EsfuerzoPrincipalMayor, De("Esfuerzo principal mayor σ1 (ton/m2)", &D::EsfuerzoPrincipalMayor));
-    si(d.EsfuerzoPrincipalMenor, De("Esfuerzo principal menor σ3 (ton/m2)", &D::EsfuerzoPrincipalMenor));
+    si(d.EsfuerzoPrincipalMayor,
+       De("Esfuerzo principal mayor σ1 (ton/m2)", &D::EsfuerzoPrincipalMayor));
+    si(d.EsfuerzoPrincipalMenor,
+       De("Esfuerzo principal menor σ3 (ton/m2)", &D::EsfuerzoPrincipalMenor));
   }
   return r;
 }
@@ -169,7 +186,9 @@ TablaDeTexto TablaSumas(const Proyecto& p) {
   TablaDeTexto t;
   t.título = "Sumas de los esfuerzos en las bases";
   t.columnas = {"Suma", "Valor"};
-  auto fila = [&](const std::string& nombre, double v) { t.filas.push_back({nombre, Número(v, "#0.00")}); };
+  auto fila = [&](const std::string& nombre, double v) {
+    t.filas.push_back({nombre, Número(v, "#0.00")});
+  };
   fila("Suma de esfuerzos tangenciales (ton/m2)", p.SumaTangenciales);
   fila("Suma de esfuerzos normales totales (ton/m2)", p.SumaNormalesTotales);
   fila("Suma de esfuerzos normales efectivos (ton/m2)", p.SumaNormalesEfectivos);

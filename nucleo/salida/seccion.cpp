@@ -19,8 +19,10 @@ struct Caja {
   double y0 = std::numeric_limits<double>::max(), y1 = -std::numeric_limits<double>::max();
   void Añadir(double x, double y) {
     if (!std::isfinite(x) || !std::isfinite(y)) return;
-    x0 = std::min(x0, x); x1 = std::max(x1, x);
-    y0 = std::min(y0, y); y1 = std::max(y1, y);
+    x0 = std::min(x0, x);
+    x1 = std::max(x1, x);
+    y0 = std::min(y0, y);
+    y1 = std::max(y1, y);
   }
   bool Vacía() const { return x1 < x0; }
 };
@@ -38,7 +40,9 @@ Trazo Línea(const TablaXY& t, long n, Color color, double grosor, const std::st
   return r;
 }
 
-std::string Num(double v) { return Formato(v, "#0.00"); }
+std::string Num(double v) {
+  return Formato(v, "#0.00");
+}
 
 // Arrows along a stretch of the surface for a uniform load.
 void CargaUniformeEnFigura(Figura& f, const Proyecto& p, long k, double largo, bool leyenda) {
@@ -67,7 +71,8 @@ void CargaUniformeEnFigura(Figura& f, const Proyecto& p, long k, double largo, b
   if (qx != 0) texto += "qx = " + Num(qx) + "  ";
   texto += "qy = " + Num(qy) + " ton/m2";
   const auto& medio = colas.puntos[colas.puntos.size() / 2];
-  f.rótulos.push_back({{medio.x, medio.y + 0.15 * largo}, texto, colores::CargaUniforme, 8.0, "centro"});
+  f.rótulos.push_back(
+      {{medio.x, medio.y + 0.15 * largo}, texto, colores::CargaUniforme, 8.0, "centro"});
 }
 
 void CargaPuntualEnFigura(Figura& f, const Proyecto& p, long k, double largo, bool leyenda) {
@@ -80,9 +85,12 @@ void CargaPuntualEnFigura(Figura& f, const Proyecto& p, long k, double largo, bo
   if (q > 0) {
     const PuntoFigura cola{punta.x - 1.4 * largo * px / q, punta.y + 1.4 * largo * py / q};
     f.flechas.push_back({cola, punta, colores::CargaPuntual, 2.2, nombre});
-    f.rótulos.push_back({{cola.x, cola.y + 0.1 * largo},
-                         "P" + std::to_string(k) + ": Px = " + Num(px) + "  Py = " + Num(py) + " ton/m",
-                         colores::CargaPuntual, 8.0, "centro"});
+    f.rótulos.push_back(
+        {{cola.x, cola.y + 0.1 * largo},
+         "P" + std::to_string(k) + ": Px = " + Num(px) + "  Py = " + Num(py) + " ton/m",
+         colores::CargaPuntual,
+         8.0,
+         "centro"});
   }
   if (leyenda) {
     // A legend entry of its own: a short invisible stroke carries the caption.
@@ -98,21 +106,25 @@ void CargaPuntualEnFigura(Figura& f, const Proyecto& p, long k, double largo, bo
 
 void GrietaEnFigura(Figura& f, const Proyecto& p, double largo) {
   const auto& g = p.GrietaTracción;
-  const bool hayGrieta = g.OrdenadaPrimerPunto != g.OrdenadaSegundoPunto || g.AbscisaPrimerPunto != g.AbscisaSegundoPunto;
+  const bool hayGrieta = g.OrdenadaPrimerPunto != g.OrdenadaSegundoPunto ||
+                         g.AbscisaPrimerPunto != g.AbscisaSegundoPunto;
   if (!hayGrieta) return;
   Trazo t;
   t.color = colores::Grieta;
   t.grosor = 2.0;
   t.nombre = "grieta";
   t.leyenda = "Grieta de tracción";
-  t.puntos = {{g.AbscisaPrimerPunto, g.OrdenadaPrimerPunto}, {g.AbscisaSegundoPunto, g.OrdenadaSegundoPunto}};
+  t.puntos = {{g.AbscisaPrimerPunto, g.OrdenadaPrimerPunto},
+              {g.AbscisaSegundoPunto, g.OrdenadaSegundoPunto}};
   f.trazos.push_back(t);
   if (g.OrdenadaNF > 0 && g.OrdenadaNF > g.OrdenadaSegundoPunto) {
     // The water stands in the crack from its level down to the bottom of the crack.
     const double alto = g.OrdenadaPrimerPunto - g.OrdenadaSegundoPunto;
-    const double t1 = alto != 0 ? std::clamp((g.OrdenadaNF - g.OrdenadaSegundoPunto) / alto, 0.0, 1.0) : 0.0;
-    const PuntoFigura nivel{g.AbscisaSegundoPunto + t1 * (g.AbscisaPrimerPunto - g.AbscisaSegundoPunto),
-                            g.OrdenadaSegundoPunto + t1 * alto};
+    const double t1 =
+        alto != 0 ? std::clamp((g.OrdenadaNF - g.OrdenadaSegundoPunto) / alto, 0.0, 1.0) : 0.0;
+    const PuntoFigura nivel{
+        g.AbscisaSegundoPunto + t1 * (g.AbscisaPrimerPunto - g.AbscisaSegundoPunto),
+        g.OrdenadaSegundoPunto + t1 * alto};
     Trazo agua;
     agua.color = colores::Agua;
     agua.grosor = 4.0;
@@ -120,13 +132,24 @@ void GrietaEnFigura(Figura& f, const Proyecto& p, double largo) {
     agua.leyenda = "Agua en la grieta";
     agua.puntos = {nivel, {g.AbscisaSegundoPunto, g.OrdenadaSegundoPunto}};
     f.trazos.push_back(agua);
-    f.marcas.push_back({{g.AbscisaNF, g.OrdenadaNF}, colores::Agua, "triángulo", 7.0, "nivel del agua en la grieta"});
+    f.marcas.push_back({{g.AbscisaNF, g.OrdenadaNF},
+                        colores::Agua,
+                        "triángulo",
+                        7.0,
+                        "nivel del agua en la grieta"});
     // The thrust acts at a third of the water height, pushing the sliding mass out of the slope.
     const double yEmpuje = g.OrdenadaSegundoPunto + (nivel.y - g.OrdenadaSegundoPunto) / 3.0;
     const double xEmpuje = g.AbscisaSegundoPunto + (nivel.x - g.AbscisaSegundoPunto) / 3.0;
-    f.flechas.push_back({{xEmpuje, yEmpuje}, {xEmpuje - largo, yEmpuje}, colores::Agua, 2.0, "empuje en la grieta"});
-    f.rótulos.push_back({{xEmpuje - largo, yEmpuje + 0.1 * largo}, "Empuje = " + Num(g.EmpujeGrieta) + " ton/m",
-                         colores::Agua, 8.0, "derecha"});
+    f.flechas.push_back({{xEmpuje, yEmpuje},
+                         {xEmpuje - largo, yEmpuje},
+                         colores::Agua,
+                         2.0,
+                         "empuje en la grieta"});
+    f.rótulos.push_back({{xEmpuje - largo, yEmpuje + 0.1 * largo},
+                         "Empuje = " + Num(g.EmpujeGrieta) + " ton/m",
+                         colores::Agua,
+                         8.0,
+                         "derecha"});
   }
 }
 
@@ -136,7 +159,8 @@ Caja CajaDeSección(const Proyecto& p) {
   AñadirTabla(c, p.CoordenadasFalla, p.NúmeroPuntosFalla);
   AñadirTabla(c, p.CoordenadasFreático, p.NúmeroPuntosFreático);
   for (long s = 1; s <= p.NúmeroEstratos; ++s)
-    for (long j = 1; j <= p.PuntosEstrato.Leer(s); ++j) c.Añadir(p.XEstrato.Leer(s, j), p.YEstrato.Leer(s, j));
+    for (long j = 1; j <= p.PuntosEstrato.Leer(s); ++j)
+      c.Añadir(p.XEstrato.Leer(s, j), p.YEstrato.Leer(s, j));
   return c;
 }
 
@@ -166,7 +190,10 @@ bool CentroDeArcoDeFalla(const Proyecto& p, double& xc, double& yc, double& radi
   const double d = std::sqrt(radio * radio - media * media);
   // Unit normal to the chord; the centre of a slip circle stands above its chord.
   double nx = -(y2 - y1) / (2 * media), ny = (x2 - x1) / (2 * media);
-  if (ny < 0) { nx = -nx; ny = -ny; }
+  if (ny < 0) {
+    nx = -nx;
+    ny = -ny;
+  }
   xc = 0.5 * (x1 + x2) + d * nx;
   yc = 0.5 * (y1 + y2) + d * ny;
   return true;
@@ -190,7 +217,8 @@ Figura FiguraSección(const Proyecto& p) {
     t.grosor = 1.2;
     t.nombre = "estrato " + std::to_string(s);
     if (s == 1) t.leyenda = "Límite inferior de estrato";
-    for (long j = 1; j <= m; ++j) t.puntos.push_back({p.XEstrato.Leer(s, j), p.YEstrato.Leer(s, j)});
+    for (long j = 1; j <= m; ++j)
+      t.puntos.push_back({p.XEstrato.Leer(s, j), p.YEstrato.Leer(s, j)});
     if (!t.puntos.empty()) {
       // The name stands just above the middle of the line, inside the stratum it closes.
       const double xm = 0.5 * (t.puntos.front().x + t.puntos.back().x);
@@ -203,7 +231,11 @@ Figura FiguraSección(const Proyecto& p) {
           break;
         }
       }
-      f.rótulos.push_back({{xm, ym + 0.25 * largo}, "Estrato " + std::to_string(s), colores::Estrato, 8.0, "centro"});
+      f.rótulos.push_back({{xm, ym + 0.25 * largo},
+                           "Estrato " + std::to_string(s),
+                           colores::Estrato,
+                           8.0,
+                           "centro"});
     }
     f.trazos.push_back(std::move(t));
   }
@@ -211,7 +243,8 @@ Figura FiguraSección(const Proyecto& p) {
   // Slices: their edges from the failure surface up to the surface.
   const long n = NúmeroDeDovelas(p);
   const auto& d = p.TablaDovelas;
-  const bool hayDovelas = n >= 1 && d.BordeX.Tamaño() > n && d.BordeYFalla.Tamaño() > n && d.BordeYTalud.Tamaño() > n;
+  const bool hayDovelas =
+      n >= 1 && d.BordeX.Tamaño() > n && d.BordeYFalla.Tamaño() > n && d.BordeYTalud.Tamaño() > n;
   if (hayDovelas) {
     for (long i = 1; i <= n + 1; ++i) {
       Trazo t;
@@ -225,13 +258,15 @@ Figura FiguraSección(const Proyecto& p) {
     if (n <= 60)
       for (long i = 1; i <= n; ++i) {
         const double x = 0.5 * (d.BordeX[i] + d.BordeX[i + 1]);
-        const double y = 0.25 * (d.BordeYFalla[i] + d.BordeYFalla[i + 1] + d.BordeYTalud[i] + d.BordeYTalud[i + 1]);
+        const double y = 0.25 * (d.BordeYFalla[i] + d.BordeYFalla[i + 1] + d.BordeYTalud[i] +
+                                 d.BordeYTalud[i + 1]);
         f.rótulos.push_back({{x, y}, std::to_string(i), colores::Dovela, 7.0, "centro"});
       }
   }
 
   if (p.NúmeroPuntosFreático > 0) {
-    Trazo t = Línea(p.CoordenadasFreático, p.NúmeroPuntosFreático, colores::Freático, 1.6, "freático");
+    Trazo t =
+        Línea(p.CoordenadasFreático, p.NúmeroPuntosFreático, colores::Freático, 1.6, "freático");
     t.discontinuo = true;
     t.leyenda = "Nivel freático";
     f.trazos.push_back(std::move(t));
@@ -279,8 +314,10 @@ Figura FiguraSección(const Proyecto& p) {
     f.trazos.push_back(std::move(t));
     for (long i = 1; i <= p.NúmeroPuntosFalla; ++i) {
       const PuntoFigura q{p.CoordenadasFalla.X.Leer(i), p.CoordenadasFalla.Y.Leer(i)};
-      f.marcas.push_back({q, colores::Falla, "círculo", 6.0, "punto de falla " + std::to_string(i)});
-      f.rótulos.push_back({{q.x, q.y - 0.3 * largo}, std::to_string(i), colores::Falla, 8.0, "centro"});
+      f.marcas.push_back(
+          {q, colores::Falla, "círculo", 6.0, "punto de falla " + std::to_string(i)});
+      f.rótulos.push_back(
+          {{q.x, q.y - 0.3 * largo}, std::to_string(i), colores::Falla, 8.0, "centro"});
     }
   }
 
@@ -296,14 +333,23 @@ Figura FiguraSección(const Proyecto& p) {
       r.puntos = {centro, {p.CoordenadasFalla.X.Leer(i), p.CoordenadasFalla.Y.Leer(i)}};
       f.trazos.push_back(std::move(r));
     }
-    f.rótulos.push_back({{xc, yc + 0.25 * largo}, "Centro (" + Num(xc) + "; " + Num(yc) + ")", colores::Centro, 8.0, "centro"});
-    const double xm = 0.5 * (xc + p.CoordenadasFalla.X.Leer(1)), ym = 0.5 * (yc + p.CoordenadasFalla.Y.Leer(1));
+    f.rótulos.push_back({{xc, yc + 0.25 * largo},
+                         "Centro (" + Num(xc) + "; " + Num(yc) + ")",
+                         colores::Centro,
+                         8.0,
+                         "centro"});
+    const double xm = 0.5 * (xc + p.CoordenadasFalla.X.Leer(1)),
+                 ym = 0.5 * (yc + p.CoordenadasFalla.Y.Leer(1));
     f.rótulos.push_back({{xm, ym}, "R = " + Num(radio) + " m", colores::Centro, 8.0, "izquierda"});
   }
 
-  for (long k = 1; p.CargasUniformesDadas && k <= p.NúmeroCargasUniformes && k <= p.CargaUniforme.xo.Tamaño(); ++k)
+  for (long k = 1;
+       p.CargasUniformesDadas && k <= p.NúmeroCargasUniformes && k <= p.CargaUniforme.xo.Tamaño();
+       ++k)
     CargaUniformeEnFigura(f, p, k, largo, k == 1);
-  for (long k = 1; p.CargasPuntualesDadas && k <= p.NúmeroCargasPuntuales && k <= p.CargaPuntual.Xpuntual.Tamaño(); ++k)
+  for (long k = 1; p.CargasPuntualesDadas && k <= p.NúmeroCargasPuntuales &&
+                   k <= p.CargaPuntual.Xpuntual.Tamaño();
+       ++k)
     CargaPuntualEnFigura(f, p, k, largo, k == 1);
   GrietaEnFigura(f, p, largo);
   return f;

@@ -45,8 +45,10 @@ inline Proyecto CasoTresDovelas() {
   p.PuntosEstrato[1] = 2;
   p.XEstrato.Redimensionar(1, 2);
   p.YEstrato.Redimensionar(1, 2);
-  p.XEstrato(1, 1) = 30; p.YEstrato(1, 1) = -5;
-  p.XEstrato(1, 2) = 0;  p.YEstrato(1, 2) = -5;
+  p.XEstrato(1, 1) = 30;
+  p.YEstrato(1, 1) = -5;
+  p.XEstrato(1, 2) = 0;
+  p.YEstrato(1, 2) = -5;
   p.Estrato.RedimensionarConservando(1);
   p.Estrato.Cohesión[1] = 1.5;
   p.Estrato.Fricción[1] = 30;
@@ -57,12 +59,17 @@ inline Proyecto CasoTresDovelas() {
   p.NúmeroCargasUniformes = 1;
   p.CargasUniformesDadas = true;
   p.CargaUniforme.Redimensionar(1);
-  p.CargaUniforme.xo[1] = 21; p.CargaUniforme.yo[1] = 10; p.CargaUniforme.xf[1] = 28; p.CargaUniforme.yf[1] = 10;
+  p.CargaUniforme.xo[1] = 21;
+  p.CargaUniforme.yo[1] = 10;
+  p.CargaUniforme.xf[1] = 28;
+  p.CargaUniforme.yf[1] = 10;
   p.CargaUniforme.qy[1] = 2;
   p.NúmeroCargasPuntuales = 1;
   p.CargasPuntualesDadas = true;
   p.CargaPuntual.Redimensionar(1);
-  p.CargaPuntual.Xpuntual[1] = 22; p.CargaPuntual.Ypuntual[1] = 10; p.CargaPuntual.Py[1] = 5;
+  p.CargaPuntual.Xpuntual[1] = 22;
+  p.CargaPuntual.Ypuntual[1] = 10;
+  p.CargaPuntual.Py[1] = 5;
   p.ParámetrosInicialesDados = true;
   p.ParámetrosIniciales.MétodoDeCálculo = 2;
   p.ParámetrosIniciales.FSInicial = 1;
@@ -70,16 +77,18 @@ inline Proyecto CasoTresDovelas() {
 
   auto& d = p.TablaDovelas;
   p.NúmeroBordes = 4;
-  for (auto* t : {&d.BordeX, &d.BordeYFalla, &d.BordeYTalud, &d.BordeYFreático}) t->Redimensionar(4);
+  for (auto* t : {&d.BordeX, &d.BordeYFalla, &d.BordeYTalud, &d.BordeYFreático})
+    t->Redimensionar(4);
   const double bx[] = {0, 25, 20, 15, 8}, bf[] = {0, 10, 6, 2, 0}, bt[] = {0, 10, 10, 35.0 / 6, 0};
   for (long i = 1; i <= 4; ++i) {
     d.BordeX[i] = bx[i];
     d.BordeYFalla[i] = bf[i];
     d.BordeYTalud[i] = bt[i];
   }
-  for (auto* t : {&d.XMedio, &d.YBase, &d.YTalud, &d.YFreático, &d.Ancho, &d.CohesiónBase, &d.FricciónBase,
-                  &d.TanFricciónBase, &d.PesoUnitarioMedio, &d.PresiónPoros, &d.ÁnguloBase, &d.FuerzaNormal,
-                  &d.EsfuerzoNormalTotal, &d.EsfuerzoNormalEfectivo, &d.EsfuerzoTangencial})
+  for (auto* t :
+       {&d.XMedio, &d.YBase, &d.YTalud, &d.YFreático, &d.Ancho, &d.CohesiónBase, &d.FricciónBase,
+        &d.TanFricciónBase, &d.PesoUnitarioMedio, &d.PresiónPoros, &d.ÁnguloBase, &d.FuerzaNormal,
+        &d.EsfuerzoNormalTotal, &d.EsfuerzoNormalEfectivo, &d.EsfuerzoTangencial})
     t->Redimensionar(3);
   const double sigma[] = {0, 5, 12, 8}, u[] = {0, 1, 3, 1.5};
   const double tan30 = std::tan(std::atan(1.0) / 45.0 * 30);

@@ -1,9 +1,9 @@
 // The output over a real calculation: Fellenius on a circular surface, then the result screen,
 // the charts, the section and the anchors read what the method left.
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cmath>
-
-#include <gtest/gtest.h>
 
 #include "equilibrio/dovelas_apoyo.h"
 #include "equilibrio/fellenius.h"
@@ -28,7 +28,8 @@ class TrasFellenius : public ::testing::Test {
     PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{20, 10}, {5, 0}});
     PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{30, 7}, {-5, -2}});
     PonerTramos(p, {{1, 2, "C"}});
-    AñadirEstrato(p, {{40, -20}, {-20, -20}}, {.cohesión = 1, .fricción = 30, .húmedo = 1.8, .saturado = 2.0});
+    AñadirEstrato(p, {{40, -20}, {-20, -20}},
+                  {.cohesión = 1, .fricción = 30, .húmedo = 1.8, .saturado = 2.0});
     p.ParámetrosIniciales.Radio = 15;
     InterfazGuionada ui("N");
     ASSERT_EQ(EjecutarComando(MétodoFellenius, p, ui), FinDeComando::Normal);
@@ -43,7 +44,8 @@ TEST_F(TrasFellenius, LaResistenciaDeLosAnclajesEsLaDeMohrCoulombEnLasBases) {
   const auto& d = p.TablaDovelas;
   double resistencia = 0;
   for (long i = 1; i <= 8; ++i) {
-    const double l = std::hypot(d.BordeX[i] - d.BordeX[i + 1], d.BordeYFalla[i] - d.BordeYFalla[i + 1]);
+    const double l =
+        std::hypot(d.BordeX[i] - d.BordeX[i + 1], d.BordeYFalla[i] - d.BordeYFalla[i + 1]);
     resistencia += (1 + d.EsfuerzoNormalEfectivo[i] * std::tan(30 * std::atan(1.0) / 45)) * l;
   }
   DatosAnclajes a;
@@ -83,7 +85,9 @@ TEST_F(TrasFellenius, LaPantallaYLosGráficosLeenLoQueDejóElMétodo) {
     if (t.nombre == "falla") {
       ASSERT_EQ(t.puntos.size(), 9u);
       for (const auto& q : t.puntos)
-        EXPECT_NEAR(std::hypot(q.x - p.ParámetrosIniciales.CentroX, q.y - p.ParámetrosIniciales.CentroY), 15, 1e-6);
+        EXPECT_NEAR(
+            std::hypot(q.x - p.ParámetrosIniciales.CentroX, q.y - p.ParámetrosIniciales.CentroY),
+            15, 1e-6);
     }
 }
 

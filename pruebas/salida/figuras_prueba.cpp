@@ -1,9 +1,9 @@
 // Figures as data: the section holds every stored point of every table, the charts hold the slice
 // columns, the arc of the circular surface stands on its circle.
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <string>
-
-#include <gtest/gtest.h>
 
 #include "salida/caso_salida.h"
 #include "salida/graficos.h"
@@ -13,7 +13,9 @@ namespace lomaterra {
 namespace {
 
 bool Contiene(const Figura& f, double x, double y) {
-  auto igual = [&](const PuntoFigura& q) { return std::abs(q.x - x) < 1e-9 && std::abs(q.y - y) < 1e-9; };
+  auto igual = [&](const PuntoFigura& q) {
+    return std::abs(q.x - x) < 1e-9 && std::abs(q.y - y) < 1e-9;
+  };
   for (const auto& t : f.trazos)
     for (const auto& q : t.puntos)
       if (igual(q)) return true;
@@ -47,7 +49,8 @@ TEST_F(Figuras, LaSecciónContieneCadaPuntoGuardadoDeCadaTabla) {
   tabla(p.CoordenadasFalla, p.NúmeroPuntosFalla, "falla");
   tabla(p.CoordenadasFreático, p.NúmeroPuntosFreático, "freático");
   for (long s = 1; s <= p.NúmeroEstratos; ++s)
-    for (long j = 1; j <= p.PuntosEstrato[s]; ++j) EXPECT_TRUE(Contiene(f, p.XEstrato(s, j), p.YEstrato(s, j))) << "estrato";
+    for (long j = 1; j <= p.PuntosEstrato[s]; ++j)
+      EXPECT_TRUE(Contiene(f, p.XEstrato(s, j), p.YEstrato(s, j))) << "estrato";
   const auto& d = p.TablaDovelas;
   for (long i = 1; i <= p.NúmeroBordes; ++i) {
     EXPECT_TRUE(Contiene(f, d.BordeX[i], d.BordeYFalla[i])) << "borde en la falla " << i;
@@ -60,7 +63,8 @@ TEST_F(Figuras, LaSecciónContieneCadaPuntoGuardadoDeCadaTabla) {
   EXPECT_TRUE(Contiene(f, 25, 11));  // its water level
   ASSERT_NE(Buscar(f, "agua en la grieta"), nullptr);
   // Each slice has its two edges drawn from the failure surface up to the surface.
-  for (long i = 1; i <= p.NúmeroBordes; ++i) ASSERT_NE(Buscar(f, "borde " + std::to_string(i)), nullptr);
+  for (long i = 1; i <= p.NúmeroBordes; ++i)
+    ASSERT_NE(Buscar(f, "borde " + std::to_string(i)), nullptr);
 }
 
 TEST_F(Figuras, LasCargasSeDibujanComoFlechasQueEmpujanElTalud) {
@@ -141,7 +145,8 @@ TEST_F(Figuras, CadaSerieDeUnGráficoEsUnaColumnaDeLasDovelasEnAbscisaCreciente)
       {"GráficoEsfuerzoNormalesTotales", {&D::EsfuerzoNormalTotal}},
       {"GráficoEsfuerzoNormalesEfectivos", {&D::EsfuerzoNormalEfectivo}},
       {"GráficoEsfuerzosTangencialesMovilizados", {&D::EsfuerzoTangencial}},
-      {"GráficoEsfuerzosNormalesTotalesEfectivosTangenciales", {&D::EsfuerzoNormalTotal, &D::EsfuerzoNormalEfectivo, &D::EsfuerzoTangencial}},
+      {"GráficoEsfuerzosNormalesTotalesEfectivosTangenciales",
+       {&D::EsfuerzoNormalTotal, &D::EsfuerzoNormalEfectivo, &D::EsfuerzoTangencial}},
       {"GráficoDeEsfuerzosPrincipales", {&D::EsfuerzoPrincipalMayor, &D::EsfuerzoPrincipalMenor}},
   };
   // Slice middles: X = 22.5, 17.5, 11.5; ascending X takes the slices 3, 2, 1.
@@ -174,7 +179,8 @@ TEST_F(Figuras, LaResistenciaAlCorteEsCMasSigmaEfectivoPorTanFi) {
   const Trazo* r = Buscar(f, "resistencia");
   const Trazo* m = Buscar(f, "movilizado");
   ASSERT_TRUE(r && m);
-  // σ' sorted: 4, 6.5, 9; c = 1.5, tan 30° = 1/√3; the mobilised shear is the strength over F = 1.5.
+  // σ' sorted: 4, 6.5, 9; c = 1.5, tan 30° = 1/√3; the mobilised shear is the strength over F
+  // = 1.5.
   const double sn[] = {4, 6.5, 9};
   for (int k = 0; k < 3; ++k) {
     const double tf = 1.5 + sn[k] / std::sqrt(3.0);
@@ -199,11 +205,13 @@ TEST_F(Figuras, LosDiagramasDeEsfuerzosSeDibujanAEscalaPerpendicularesALaBase) {
   const double a = std::atan2(4.0, 5.0);
   const PuntoFigura esperado{20 + 4.5 * std::sin(a), 6 - 4.5 * std::cos(a)};
   bool hallado = false;
-  for (const auto& q : normal->puntos) hallado |= std::abs(q.x - esperado.x) < 1e-9 && std::abs(q.y - esperado.y) < 1e-9;
+  for (const auto& q : normal->puntos)
+    hallado |= std::abs(q.x - esperado.x) < 1e-9 && std::abs(q.y - esperado.y) < 1e-9;
   EXPECT_TRUE(hallado);
   ASSERT_EQ(f.notas.size(), 2u);
   EXPECT_EQ(f.notas[0], "Método: Bishop A. W.    Factor de seguridad: 1.500");
-  EXPECT_EQ(f.notas[1], "Escala de esfuerzos: 1 m del dibujo representa 2.00 ton/m2; máximo 9.00 ton/m2");
+  EXPECT_EQ(f.notas[1],
+            "Escala de esfuerzos: 1 m del dibujo representa 2.00 ton/m2; máximo 9.00 ton/m2");
 }
 
 TEST_F(Figuras, UnNombreQueNoEsDelMenúDaUnaFiguraVacía) {

@@ -1,8 +1,8 @@
 // The division of a report into pages, and the two reports as data.
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 #include "proyecto/interfaz_guionada.h"
 #include "salida/caso_salida.h"
@@ -33,7 +33,8 @@ TEST(Paginar, UnaTablaLargaSeParteRepitiendoSusTítulosYNingunaPáginaSeDesborda
   inf.AñadirTabla(TablaDe(40));
   const MedidasPágina m{20, 80, 8};
   const auto páginas = Paginar(inf, m);
-  // Page 1: title 3 + captions 2 + 15 rows = 20. Then 18 rows a page after the captions: 15 + 18 + 7.
+  // Page 1: title 3 + captions 2 + 15 rows = 20. Then 18 rows a page after the captions: 15 + 18
+  // + 7.
   ASSERT_EQ(páginas.size(), 3u);
   long filas = 0;
   for (std::size_t k = 0; k < páginas.size(); ++k) {
@@ -49,7 +50,7 @@ TEST(Paginar, UnaTablaLargaSeParteRepitiendoSusTítulosYNingunaPáginaSeDesborda
 
 TEST(Paginar, UnTítuloNoQuedaSoloAlPieYUnaFiguraQueNoCabeEmpiezaPágina) {
   Informe inf;
-  inf.Párrafo(std::string(79, 'a') + " b");           // two lines and a space: 3
+  inf.Párrafo(std::string(79, 'a') + " b");          // two lines and a space: 3
   for (int k = 0; k < 4; ++k) inf.Párrafo("línea");  // 2 lines each: 11 lines used
   inf.Subtítulo("Sección");                          // 11 + 2 + a figure of 8 = 21 > 20
   inf.AñadirFigura(Figura{});
@@ -102,27 +103,34 @@ TEST(Informes, LosDatosYLosResultadosLlevanSusTablasYFiguras) {
   auto títulos = [](const Informe& inf) {
     std::vector<std::string> r;
     for (const auto& b : inf.bloques)
-      if (b.tipo == BloqueInforme::Tipo::Tabla) r.push_back(b.tabla.título);
-      else if (b.tipo == BloqueInforme::Tipo::Figura) r.push_back("figura: " + b.figura.nombre);
+      if (b.tipo == BloqueInforme::Tipo::Tabla)
+        r.push_back(b.tabla.título);
+      else if (b.tipo == BloqueInforme::Tipo::Figura)
+        r.push_back("figura: " + b.figura.nombre);
     return r;
   };
   const Informe datos = InformeDeDatos(p);
-  EXPECT_EQ(datos.encabezado[2], "Ingeniero responsable: Ing. Ana Pérez    Empresa: Geotecnia Andina");
+  EXPECT_EQ(datos.encabezado[2],
+            "Ingeniero responsable: Ing. Ana Pérez    Empresa: Geotecnia Andina");
   EXPECT_EQ(títulos(datos), (std::vector<std::string>{
-                                "Proyecto", "Coordenadas del talud, presa o túnel", "Coordenadas de la superficie de falla",
-                                "Uniones entre los puntos de la superficie de falla", "Coordenadas del nivel freático",
-                                "Límite inferior del estrato 1", "Estratos", "Cargas uniformemente distribuidas", "Cargas puntuales",
+                                "Proyecto", "Coordenadas del talud, presa o túnel",
+                                "Coordenadas de la superficie de falla",
+                                "Uniones entre los puntos de la superficie de falla",
+                                "Coordenadas del nivel freático", "Límite inferior del estrato 1",
+                                "Estratos", "Cargas uniformemente distribuidas", "Cargas puntuales",
                                 "Parámetros de cálculo", "figura: GráficoGeometría"}));
   const Informe resultados = InformeDeResultados(p);
   EXPECT_EQ(títulos(resultados),
-            (std::vector<std::string>{"Historia de las iteraciones", "Resultados en las dovelas (1 de 2)",
-                                      "Resultados en las dovelas (2 de 2)", "Sumas de los esfuerzos en las bases",
-                                      "figura: GráficoGeometríaAdaptadaEscalaEsfuerzos",
-                                      "figura: GráficoEsfuerzosNormalesTotalesEfectivosTangenciales",
-                                      "figura: GráficoResistenciaAlCorteVsEsfuerzoNormal"}));
+            (std::vector<std::string>{
+                "Historia de las iteraciones", "Resultados en las dovelas (1 de 2)",
+                "Resultados en las dovelas (2 de 2)", "Sumas de los esfuerzos en las bases",
+                "figura: GráficoGeometríaAdaptadaEscalaEsfuerzos",
+                "figura: GráficoEsfuerzosNormalesTotalesEfectivosTangenciales",
+                "figura: GráficoResistenciaAlCorteVsEsfuerzoNormal"}));
   // Every part of the slice table begins with the slice number and keeps every row.
   for (const auto& b : resultados.bloques)
-    if (b.tipo == BloqueInforme::Tipo::Tabla && b.tabla.título.rfind("Resultados en las dovelas", 0) == 0) {
+    if (b.tipo == BloqueInforme::Tipo::Tabla &&
+        b.tabla.título.rfind("Resultados en las dovelas", 0) == 0) {
       EXPECT_EQ(b.tabla.columnas.front(), "Dovela");
       EXPECT_EQ(b.tabla.filas.size(), 3u);
     }
@@ -140,7 +148,8 @@ TEST(Informes, LaInterfazGuionadaApuntaFigurasCopiasEImpresiones) {
   ui.Imprimir(inf);
   std::vector<std::string> líneas;
   for (const auto& a : ui.Transcripción()) líneas.push_back(InterfazGuionada::Línea(a));
-  EXPECT_EQ(líneas, (std::vector<std::string>{"[figura] Geometría del talud | GráficoGeometría", "[portapapeles] 4 caracteres",
+  EXPECT_EQ(líneas, (std::vector<std::string>{"[figura] Geometría del talud | GráficoGeometría",
+                                              "[portapapeles] 4 caracteres",
                                               "[imprimir] Información dada al programa"}));
   EXPECT_EQ(ui.Transcripción()[1].texto, "a\tb\n");
 }

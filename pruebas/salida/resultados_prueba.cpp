@@ -1,11 +1,11 @@
 // The presentation commands: their gates word for word, the result screen and its clipboard text,
 // the anchor screens against a hand calculation, and the print commands through the port.
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 #include "pantallas/anclajes.h"
 #include "pantallas/resultados.h"
@@ -61,8 +61,9 @@ TEST_F(Presentación, SinTipoDeAnálisisOConElementosFinitosNadaSePresenta) {
     for (const auto& o : órdenes) {
       ui.Olvidar();
       Ejecutar(o, p, ui);
-      const std::string esperado = *tipo == 0 ? "[mensaje]  | Seleccione en la pantalla principal la opción <T> ó <F>"
-                                              : "[mensaje]  | Ud. está trabajando con elementos finitos";
+      const std::string esperado =
+          *tipo == 0 ? "[mensaje]  | Seleccione en la pantalla principal la opción <T> ó <F>"
+                     : "[mensaje]  | Ud. está trabajando con elementos finitos";
       EXPECT_EQ(Líneas(ui), std::vector<std::string>{esperado}) << o;
     }
   }
@@ -72,12 +73,14 @@ TEST_F(Presentación, CadaPantallaDeResultadosEsParaSuMaterial) {
   p.TipoDeMaterial = "S";
   Ejecutar("ResultadosCálculoRocas", p, ui);
   EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                            "[mensaje] Esta presentación es para roca: | Ud ha seleccionado la opción 'suelos' en los parámetros iniciales  "});
+                            "[mensaje] Esta presentación es para roca: | Ud ha seleccionado la "
+                            "opción 'suelos' en los parámetros iniciales  "});
   ui.Olvidar();
   p.TipoDeMaterial = "R";
   Ejecutar("ResultadosCálculoSuelos", p, ui);
   EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                            "[mensaje] Esta presentación es para SUELOS: | Ud ha seleccionado la opción 'ROCA' en los parámetros iniciales  "});
+                            "[mensaje] Esta presentación es para SUELOS: | Ud ha seleccionado la "
+                            "opción 'ROCA' en los parámetros iniciales  "});
 }
 
 TEST_F(Presentación, SinCálculoCadaOrdenDiceAQuéMenúIr) {
@@ -86,20 +89,25 @@ TEST_F(Presentación, SinCálculoCadaOrdenDiceAQuéMenúIr) {
   for (const auto& o : kÓrdenesDeResultados) {
     ui.Olvidar();
     Ejecutar(o, p, ui);
-    EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                              "[mensaje] Resultados del cálculo | No hay resultados de un cálculo por equilibrio límite. "
-                              "Vaya al menú 'Equilibrio límite' y ordene 'Calcular factor de seguridad'."})
+    EXPECT_EQ(Líneas(ui),
+              std::vector<std::string>{
+                  "[mensaje] Resultados del cálculo | No hay resultados de un cálculo por "
+                  "equilibrio límite. "
+                  "Vaya al menú 'Equilibrio límite' y ordene 'Calcular factor de seguridad'."})
         << o;
   }
 }
 
 TEST_F(Presentación, LosEsfuerzosPrincipalesSoloSiElMétodoLosDio) {
-  for (const char* o : {"GráficoEsfuerzoPrincipalMenor", "GráficoEsfuerzoPrincipalMayor", "GráficoDeEsfuerzosPrincipales"}) {
+  for (const char* o : {"GráficoEsfuerzoPrincipalMenor", "GráficoEsfuerzoPrincipalMayor",
+                        "GráficoDeEsfuerzosPrincipales"}) {
     ui.Olvidar();
     Ejecutar(o, p, ui);
-    EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                              "[mensaje] Esfuerzos principales | El cálculo realizado no da los esfuerzos principales: los dan "
-                              "el método de Dov Leshchinsky y los métodos para rocas. Vaya al menú 'Equilibrio límite'."})
+    EXPECT_EQ(Líneas(ui),
+              std::vector<std::string>{"[mensaje] Esfuerzos principales | El cálculo realizado no "
+                                       "da los esfuerzos principales: los dan "
+                                       "el método de Dov Leshchinsky y los métodos para rocas. "
+                                       "Vaya al menú 'Equilibrio límite'."})
         << o;
   }
 }
@@ -112,12 +120,17 @@ TEST_F(Presentación, CadaGráficoSeMuestraPorElPuertoConSuTítulo) {
       {"GráficoEsfuerzoPrincipalMenor", "Esfuerzo principal menor en la base de las dovelas"},
       {"GráficoEsfuerzoPrincipalMayor", "Esfuerzo principal mayor en la base de las dovelas"},
       {"GráficoEsfuerzoNormalesTotales", "Esfuerzos normales totales en la base de las dovelas"},
-      {"GráficoEsfuerzoNormalesEfectivos", "Esfuerzos normales efectivos en la base de las dovelas"},
-      {"GráficoEsfuerzosTangencialesMovilizados", "Esfuerzos tangenciales movilizados en la base de las dovelas"},
-      {"GráficoResistenciaAlCorteVsEsfuerzoNormal", "Resistencia al corte y esfuerzo tangencial movilizado contra esfuerzo normal efectivo"},
-      {"GráficoEsfuerzosNormalesTotalesEfectivosTangenciales", "Esfuerzos normales totales, efectivos y tangenciales en la base de las dovelas"},
+      {"GráficoEsfuerzoNormalesEfectivos",
+       "Esfuerzos normales efectivos en la base de las dovelas"},
+      {"GráficoEsfuerzosTangencialesMovilizados",
+       "Esfuerzos tangenciales movilizados en la base de las dovelas"},
+      {"GráficoResistenciaAlCorteVsEsfuerzoNormal",
+       "Resistencia al corte y esfuerzo tangencial movilizado contra esfuerzo normal efectivo"},
+      {"GráficoEsfuerzosNormalesTotalesEfectivosTangenciales",
+       "Esfuerzos normales totales, efectivos y tangenciales en la base de las dovelas"},
       {"GráficoDeEsfuerzosPrincipales", "Esfuerzos principales contra abscisas"},
-      {"GráficoGeometríaAdaptadaEscalaEsfuerzos", "Geometría del talud con los esfuerzos en la superficie de falla"},
+      {"GráficoGeometríaAdaptadaEscalaEsfuerzos",
+       "Geometría del talud con los esfuerzos en la superficie de falla"},
       {"GráficoGeometría", "Geometría del talud"},
   };
   for (const auto& [orden, título] : casos) {
@@ -130,23 +143,29 @@ TEST_F(Presentación, CadaGráficoSeMuestraPorElPuertoConSuTítulo) {
 TEST_F(Presentación, LaGeometríaSeDibujaSinCálculoPeroNoSinTalud) {
   p.NúmeroIteraciones = 0;
   Ejecutar("GráficoGeometría", p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[figura] Geometría del talud | GráficoGeometría"});
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{"[figura] Geometría del talud | GráficoGeometría"});
   ui.Olvidar();
   p.NúmeroPuntosTalud = 0;
   Ejecutar("GráficoGeometría", p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[mensaje] Geometría del talud | No hay coordenadas del talud para dibujar. "
-                                                 "Vaya al menú 'Coordenadas' y entre las del talud."});
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{
+                "[mensaje] Geometría del talud | No hay coordenadas del talud para dibujar. "
+                "Vaya al menú 'Coordenadas' y entre las del talud."});
 }
 
 TEST_F(Presentación, LosInformesSeImprimenPorElPuerto) {
   Ejecutar("ImprimirInformaciónDadaAlPrograma", p, ui);
   Ejecutar("ImprimirResultadosAnálisisMétodosEquilibrioLímites", p, ui);
-  EXPECT_EQ(Líneas(ui), (std::vector<std::string>{"[imprimir] Información dada al programa",
-                                                  "[imprimir] Resultados del análisis por equilibrio límite"}));
+  EXPECT_EQ(Líneas(ui),
+            (std::vector<std::string>{"[imprimir] Información dada al programa",
+                                      "[imprimir] Resultados del análisis por equilibrio límite"}));
   ui.Olvidar();
   p.InformaciónDada = false;
   Ejecutar("ImprimirInformaciónDadaAlPrograma", p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[mensaje] Información requerida | Debe dar la información del proyecto. Entre al menú 'Archivo'"});
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{"[mensaje] Información requerida | Debe dar la información "
+                                     "del proyecto. Entre al menú 'Archivo'"});
 }
 
 TEST_F(Presentación, LaPantallaDeResultadosMuestraMétodoFactorHistoriaDovelasYSumas) {
@@ -173,9 +192,10 @@ TEST_F(Presentación, LaPantallaDeResultadosMuestraMétodoFactorHistoriaDovelasY
     };
     EXPECT_EQ(d.filas[1][columna("Esfuerzo normal total σ (ton/m2)")], "12.00");
     EXPECT_EQ(d.filas[1][columna("Esfuerzo normal efectivo σ' (ton/m2)")], "9.00");
-    EXPECT_EQ(d.filas[1][columna("Esfuerzo tangencial movilizado τ (ton/m2)")], "4.46");  // (1.5 + 9/√3)/1.5 = 4.464
+    EXPECT_EQ(d.filas[1][columna("Esfuerzo tangencial movilizado τ (ton/m2)")],
+              "4.46");  // (1.5 + 9/√3)/1.5 = 4.464
     EXPECT_EQ(d.filas[1][columna("Presión de poros u (ton/m2)")], "3.00");
-    EXPECT_EQ(d.filas[1][columna("Ángulo base (°)")], "38.66");  // atan(4/5)
+    EXPECT_EQ(d.filas[1][columna("Ángulo base (°)")], "38.66");   // atan(4/5)
     EXPECT_EQ(d.filas[2][columna("Longitud base (m)")], "7.28");  // √53
     for (const auto& c : d.columnas)
       if (c != "Dovela") {
@@ -185,8 +205,10 @@ TEST_F(Presentación, LaPantallaDeResultadosMuestraMétodoFactorHistoriaDovelasY
     for (const auto& c : d.columnas) EXPECT_EQ(c.find("principal"), std::string::npos);
     const auto& s = pantalla.lista("ListaSumas");
     ASSERT_EQ(s.filas.size(), 3u);
-    EXPECT_EQ(s.filas[0], (std::vector<std::string>{"Suma de esfuerzos tangenciales (ton/m2)", "10.51"}));
-    EXPECT_EQ(s.filas[1], (std::vector<std::string>{"Suma de esfuerzos normales totales (ton/m2)", "25.00"}));
+    EXPECT_EQ(s.filas[0],
+              (std::vector<std::string>{"Suma de esfuerzos tangenciales (ton/m2)", "10.51"}));
+    EXPECT_EQ(s.filas[1],
+              (std::vector<std::string>{"Suma de esfuerzos normales totales (ton/m2)", "25.00"}));
     pantalla.Pulsar("BotónCopiar", i);
     pantalla.Pulsar("BotónCerrar", i);
   });
@@ -195,16 +217,23 @@ TEST_F(Presentación, LaPantallaDeResultadosMuestraMétodoFactorHistoriaDovelasY
   for (const auto& a : ui.Transcripción())
     if (a.tipo == "portapapeles") copiado = a.texto;
   // Tab-separated: the method, the factor, a blank line, the slice table with its captions.
-  ASSERT_EQ(copiado.rfind("Método\tBishop A. W.\nFactor de seguridad\t1.500\n\nDovela\tX medio (m)\tAncho (m)\t", 0), 0u) << copiado;
+  ASSERT_EQ(
+      copiado.rfind(
+          "Método\tBishop A. W.\nFactor de seguridad\t1.500\n\nDovela\tX medio (m)\tAncho (m)\t",
+          0),
+      0u)
+      << copiado;
   EXPECT_NE(copiado.find("\n2\t17.50\t5.00\t"), std::string::npos);
-  EXPECT_NE(copiado.find("Suma de esfuerzos normales efectivos (ton/m2)\t19.50\n"), std::string::npos);
+  EXPECT_NE(copiado.find("Suma de esfuerzos normales efectivos (ton/m2)\t19.50\n"),
+            std::string::npos);
 }
 
 TEST_F(Presentación, EnRocaSeMuestranLosParámetrosDelMacizoLosPrincipalesYLosMultiplicadores) {
   p.TipoDeMaterial = "R";
   p.ParámetrosIniciales.MétodoDeCálculo = 1;
   auto& d = p.TablaDovelas;
-  for (auto* t : {&d.m_Base, &d.s_Base, &d.a_Base, &d.C_SimpleBase, &d.EsfuerzoPrincipalMayor, &d.EsfuerzoPrincipalMenor})
+  for (auto* t : {&d.m_Base, &d.s_Base, &d.a_Base, &d.C_SimpleBase, &d.EsfuerzoPrincipalMayor,
+                  &d.EsfuerzoPrincipalMenor})
     t->Redimensionar(3);
   for (long i = 1; i <= 3; ++i) {
     d.m_Base[i] = 1.2;
@@ -222,18 +251,22 @@ TEST_F(Presentación, EnRocaSeMuestranLosParámetrosDelMacizoLosPrincipalesYLosM
     EXPECT_EQ(s.título, "Resultados del cálculo para rocas");
     EXPECT_EQ(s.texto("TextoMétodo"), "Dov Leshchinsky - Ching y Hoek - Brown (m, s)");
     const auto& h = s.lista("ListaIteraciones");
-    EXPECT_EQ(h.columnas, (std::vector<std::string>{"Iteración", "Multiplicador µ1", "Multiplicador µ2", "Factor de seguridad"}));
+    EXPECT_EQ(h.columnas, (std::vector<std::string>{"Iteración", "Multiplicador µ1",
+                                                    "Multiplicador µ2", "Factor de seguridad"}));
     EXPECT_EQ(h.filas.back(), (std::vector<std::string>{"3", "0.250000", "-0.500000", "1.500"}));
     const auto& c = s.lista("ListaDovelas").columnas;
-    for (const char* t : {"m macizo", "s macizo", "a macizo", "σci (kg/cm2)", "Esfuerzo principal mayor σ1 (ton/m2)",
-                          "Esfuerzo principal menor σ3 (ton/m2)"})
+    for (const char* t :
+         {"m macizo", "s macizo", "a macizo", "σci (kg/cm2)",
+          "Esfuerzo principal mayor σ1 (ton/m2)", "Esfuerzo principal menor σ3 (ton/m2)"})
       EXPECT_NE(std::find(c.begin(), c.end(), t), c.end()) << t;
     // Without instantaneous parameters the rock shows no cohesion and friction of its own.
     EXPECT_EQ(std::find(c.begin(), c.end(), "Cohesión c (ton/m2)"), c.end());
     const auto& sumas = s.lista("ListaSumas").filas;
     ASSERT_GE(sumas.size(), 5u);
-    EXPECT_EQ(sumas[3], (std::vector<std::string>{"Suma de esfuerzos principales mayores (ton/m2)", "66.00"}));
-    EXPECT_EQ(sumas[4], (std::vector<std::string>{"Suma de esfuerzos principales menores (ton/m2)", "6.00"}));
+    EXPECT_EQ(sumas[3], (std::vector<std::string>{"Suma de esfuerzos principales mayores (ton/m2)",
+                                                  "66.00"}));
+    EXPECT_EQ(sumas[4],
+              (std::vector<std::string>{"Suma de esfuerzos principales menores (ton/m2)", "6.00"}));
   });
   Ejecutar("ResultadosCálculoRocas", p, ui);
   ASSERT_EQ(ui.Transcripción().size(), 1u);
@@ -318,8 +351,11 @@ TEST_F(PantallaDeAnclajes, LasComprobacionesHablanEnOrdenYNoGuardanNada) {
       {"dos", "20", "Debe introducir un número en Factor de seguridad buscado"},
       {"2", "", "Debe introducir un número en Inclinación de los anclajes bajo la horizontal (°)"},
       {"0", "20", "El factor de seguridad buscado debe ser mayor que cero."},
-      {"2", "95", "La inclinación de los anclajes debe estar entre 0 y 90 grados bajo la horizontal."},
-      {"1.2", "20", "El factor de seguridad del cálculo (1.500) ya alcanza el factor buscado: no se necesitan anclajes."},
+      {"2", "95",
+       "La inclinación de los anclajes debe estar entre 0 y 90 grados bajo la horizontal."},
+      {"1.2", "20",
+       "El factor de seguridad del cálculo (1.500) ya alcanza el factor buscado: no se necesitan "
+       "anclajes."},
   };
   for (const auto& c : casos) {
     ui.Olvidar();

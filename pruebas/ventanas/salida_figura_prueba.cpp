@@ -1,13 +1,12 @@
 // The figure dialog and the exports by extension, offscreen.
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
 #include <QImage>
 #include <QPushButton>
-
 #include <filesystem>
-
-#include <gtest/gtest.h>
 
 #include "apoyo/apoyo.h"
 #include "pintor.h"
@@ -34,9 +33,10 @@ class DiálogoFigura : public ::testing::Test {
 TEST_F(DiálogoFigura, TieneLaVistaYLosBotonesDeExportarYCerrar) {
   std::unique_ptr<QDialog> d(CrearDiálogoFigura(nullptr, FiguraGráfico(p, "GráficoGeometría")));
   EXPECT_EQ(d->windowTitle(), QStringLiteral("Geometría del talud"));
-  const std::vector<std::pair<const char*, const char*>> botones{{"BotónExportarPNG", "Exportar PNG..."},
-                                                                 {"BotónExportarPDF", "Exportar PDF..."},
-                                                                 {"BotónCerrar", "Cerrar"}};
+  const std::vector<std::pair<const char*, const char*>> botones{
+      {"BotónExportarPNG", "Exportar PNG..."},
+      {"BotónExportarPDF", "Exportar PDF..."},
+      {"BotónCerrar", "Cerrar"}};
   for (const auto& [nombre, texto] : botones) {
     auto* b = d->findChild<QPushButton*>(QString::fromUtf8(nombre));
     ASSERT_NE(b, nullptr) << nombre;
@@ -48,7 +48,8 @@ TEST_F(DiálogoFigura, TieneLaVistaYLosBotonesDeExportarYCerrar) {
   const QImage imagen = vista->grab().toImage();
   long pintados = 0;
   for (int y = 0; y < imagen.height(); y += 2)
-    for (int x = 0; x < imagen.width(); x += 2) pintados += (imagen.pixel(x, y) & 0xFFFFFF) != 0xFFFFFF;
+    for (int x = 0; x < imagen.width(); x += 2)
+      pintados += (imagen.pixel(x, y) & 0xFFFFFF) != 0xFFFFFF;
   EXPECT_GT(pintados, 2000);
   d->findChild<QPushButton*>(QStringLiteral("BotónCerrar"))->click();
   EXPECT_EQ(d->result(), QDialog::Accepted);
@@ -68,7 +69,8 @@ TEST_F(DiálogoFigura, SeExportaPorLaExtensiónYUnaMalaRutaNoDejaNada) {
   ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
   EXPECT_TRUE(pdf.read(5) == "%PDF-");
   EXPECT_FALSE(ExportarFigura(f, Ruta("a.bmp"), &error));
-  EXPECT_EQ(error, QStringLiteral("El archivo %1 debe terminar en .png, .svg o .pdf.").arg(Ruta("a.bmp")));
+  EXPECT_EQ(error,
+            QStringLiteral("El archivo %1 debe terminar en .png, .svg o .pdf.").arg(Ruta("a.bmp")));
   EXPECT_FALSE(ExportarPNG(f, Ruta("falta/a.png"), &error));
   EXPECT_TRUE(error.startsWith(QStringLiteral("No se pudo escribir el archivo")));
   EXPECT_FALSE(std::filesystem::exists(carpeta + "/falta/a.png"));
@@ -76,7 +78,8 @@ TEST_F(DiálogoFigura, SeExportaPorLaExtensiónYUnaMalaRutaNoDejaNada) {
 
 TEST_F(DiálogoFigura, ElPortapapelesRecibeElTextoTabulado) {
   CopiarAlPortapapelesQt("Dovela\tX medio (m)\n1\t22.50\n");
-  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Dovela\tX medio (m)\n1\t22.50\n"));
+  EXPECT_EQ(QGuiApplication::clipboard()->text(),
+            QStringLiteral("Dovela\tX medio (m)\n1\t22.50\n"));
 }
 
 TEST_F(DiálogoFigura, LasCoordenadasBajoElRatónSonLasDelDibujo) {

@@ -1,14 +1,13 @@
 // The reports as PDF: pages as the layout rules say, the header on every page, the texts in place.
 // pdftotext and pdfinfo (poppler-utils) read the files back.
-#include <QApplication>
+#include <gtest/gtest.h>
 
+#include <QApplication>
 #include <array>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <string>
-
-#include <gtest/gtest.h>
 
 #include "apoyo/apoyo.h"
 #include "informe_qt.h"
@@ -34,7 +33,8 @@ int Páginas(const std::string& pdf) {
 }
 
 std::string Texto(const std::string& pdf, int página) {
-  return Salida("pdftotext -layout -f " + std::to_string(página) + " -l " + std::to_string(página) + " '" + pdf + "' - 2>/dev/null");
+  return Salida("pdftotext -layout -f " + std::to_string(página) + " -l " + std::to_string(página) +
+                " '" + pdf + "' - 2>/dev/null");
 }
 
 class InformePDF : public ::testing::Test {
@@ -46,7 +46,8 @@ class InformePDF : public ::testing::Test {
     if (!QApplication::instance()) new QApplication(argc, argv);
   }
   void SetUp() override {
-    if (Salida("command -v pdftotext pdfinfo").empty()) GTEST_SKIP() << "faltan pdftotext y pdfinfo (poppler-utils)";
+    if (Salida("command -v pdftotext pdfinfo").empty())
+      GTEST_SKIP() << "faltan pdftotext y pdfinfo (poppler-utils)";
   }
   Proyecto p = pruebas::CasoTresDovelas();
   std::string carpeta = pruebas::CarpetaTemporal();
@@ -59,25 +60,31 @@ TEST_F(InformePDF, ElInformeDeResultadosTieneTresPáginasConSuCabecera) {
   const std::string ruta = carpeta + "/resultados.pdf";
   QString error;
   int n = 0;
-  ASSERT_TRUE(EscribirInformePDF(InformeDeResultados(p), QString::fromStdString(ruta), &error, &n)) << error.toStdString();
+  ASSERT_TRUE(EscribirInformePDF(InformeDeResultados(p), QString::fromStdString(ruta), &error, &n))
+      << error.toStdString();
   EXPECT_EQ(n, 3);
   EXPECT_EQ(Páginas(ruta), 3);
   for (int k = 1; k <= 3; ++k) {
     const std::string t = Texto(ruta, k);
-    EXPECT_NE(t.find("Lomaterra - Resultados del análisis por equilibrio límite"), std::string::npos) << k;
+    EXPECT_NE(t.find("Lomaterra - Resultados del análisis por equilibrio límite"),
+              std::string::npos)
+        << k;
     EXPECT_NE(t.find("Página " + std::to_string(k) + " de 3"), std::string::npos) << k;
     EXPECT_NE(t.find("Ing. Ana Pérez"), std::string::npos) << k;
     EXPECT_NE(t.find("Talud de prueba de la vía norte"), std::string::npos) << k;
   }
   const std::string uno = Texto(ruta, 1);
-  for (const char* s : {"Método: Bishop A. W.", "Factor de seguridad: 1.500", "Historia de las iteraciones",
-                        "Resultados en las dovelas (1 de 2)", "Resultados en las dovelas (2 de 2)", "Suma de esfuerzos normales totales",
-                        "25.00", "12.00"})
+  for (const char* s :
+       {"Método: Bishop A. W.", "Factor de seguridad: 1.500", "Historia de las iteraciones",
+        "Resultados en las dovelas (1 de 2)", "Resultados en las dovelas (2 de 2)",
+        "Suma de esfuerzos normales totales", "25.00", "12.00"})
     EXPECT_NE(uno.find(s), std::string::npos) << s;
   const std::string dos = Texto(ruta, 2);
   EXPECT_NE(dos.find("Gráficos"), std::string::npos);
-  EXPECT_NE(dos.find("Geometría del talud con los esfuerzos en la superficie de falla"), std::string::npos);
-  EXPECT_NE(Texto(ruta, 3).find("Resistencia al corte y esfuerzo tangencial movilizado"), std::string::npos);
+  EXPECT_NE(dos.find("Geometría del talud con los esfuerzos en la superficie de falla"),
+            std::string::npos);
+  EXPECT_NE(Texto(ruta, 3).find("Resistencia al corte y esfuerzo tangencial movilizado"),
+            std::string::npos);
 }
 
 TEST_F(InformePDF, UnaTablaLargaSigueEnLaPáginaSiguienteConSusTítulos) {

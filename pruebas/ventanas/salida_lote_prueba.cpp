@@ -1,7 +1,7 @@
 // The output functions that lomaterra-lote calls: report and figures by name, with clear refusals.
-#include <filesystem>
-
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 #include "apoyo/apoyo.h"
 #include "salida/caso_salida.h"
@@ -18,14 +18,19 @@ TEST(SalidaDeLote, EscribeElInformeYLasFigurasPorSuNombre) {
   ASSERT_TRUE(EscribirInformeDeResultados(p, carpeta + "/r.pdf", error)) << error;
   EXPECT_GT(std::filesystem::file_size(carpeta + "/r.pdf"), 1000u);
   ASSERT_TRUE(EscribirFiguraDelMenú(p, "GráficoGeometría", carpeta + "/g.png", error)) << error;
-  ASSERT_TRUE(EscribirFiguraDelMenú(p, "GráficoEsfuerzoNormalesTotales", carpeta + "/n.svg", error)) << error;
+  ASSERT_TRUE(EscribirFiguraDelMenú(p, "GráficoEsfuerzoNormalesTotales", carpeta + "/n.svg", error))
+      << error;
   EXPECT_GT(std::filesystem::file_size(carpeta + "/g.png"), 1000u);
 
   EXPECT_FALSE(EscribirFiguraDelMenú(p, "Geometría", carpeta + "/x.png", error));
-  EXPECT_EQ(error.rfind("No hay una figura llamada Geometría. Las figuras son: GráficoEsfuerzoPrincipalMenor", 0), 0u);
+  EXPECT_EQ(
+      error.rfind(
+          "No hay una figura llamada Geometría. Las figuras son: GráficoEsfuerzoPrincipalMenor", 0),
+      0u);
   p.NúmeroIteraciones = 0;
   EXPECT_FALSE(EscribirInformeDeResultados(p, carpeta + "/s.pdf", error));
-  EXPECT_EQ(error, "No hay resultados de un cálculo por equilibrio límite para el informe " + carpeta + "/s.pdf.");
+  EXPECT_EQ(error, "No hay resultados de un cálculo por equilibrio límite para el informe " +
+                       carpeta + "/s.pdf.");
   EXPECT_FALSE(std::filesystem::exists(carpeta + "/s.pdf"));
   // The section needs no calculation.
   EXPECT_TRUE(EscribirFiguraDelMenú(p, "GráficoGeometría", carpeta + "/g2.png", error)) << error;
@@ -36,7 +41,8 @@ TEST(SalidaDeLote, ElArgumentoDeFiguraEsNombreIgualArchivo) {
   ASSERT_TRUE(LeerArgumentoFigura("GráficoGeometría=sección.png", n, r));
   EXPECT_EQ(n, "GráficoGeometría");
   EXPECT_EQ(r, "sección.png");
-  for (const char* malo : {"GráficoGeometría", "=a.png", "GráficoGeometría="}) EXPECT_FALSE(LeerArgumentoFigura(malo, n, r)) << malo;
+  for (const char* malo : {"GráficoGeometría", "=a.png", "GráficoGeometría="})
+    EXPECT_FALSE(LeerArgumentoFigura(malo, n, r)) << malo;
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 // The painter writes figures to PNG, SVG and PDF; a person can look at the PNGs it leaves.
-#include <QFile>
-#include <QApplication>
-#include <QImage>
-
 #include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QImage>
 
 #include "apoyo/apoyo.h"
 #include "pintor.h"
