@@ -1,7 +1,202 @@
-// lomaterra-lote: runs commands of the core on a project file without a window.
+// lomaterra-lote: runs commands of the core on a project file without a window, for batch work
+// and for acceptance checks.
+//
+//   lomaterra-lote PROYECTO.cod COMANDO [COMANDO ...] [--respuestas SNSN...] [--por-defecto S|N]
+//                  [--json SALIDA.json] [--guardar OTRO.cod]
+//
+// Each yes/no question takes the next letter of --respuestas, then the --por-defecto answer; a
+// screen that a command opens is closed with its exit button and no change. Every box is printed
+// as one line as it appears; a summary of the results follows.
+#include <exception>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <string>
+#include <vector>
 
-int main() {
-  std::cerr << "lomaterra-lote: en construcción\n";
-  return 2;
+#include "opciones.h"
+#include "proyecto/archivo.h"
+#include "proyecto/comandos.h"
+#include "proyecto/interfaz_guionada.h"
+#include "proyecto/proyecto.h"
+#include "resumen.h"
+
+namespace lomaterra::lote {
+namespace {
+
+constexpr int kBien = 0;
+constexpr int kFallo = 1;
+constexpr int kUsoIncorrecto = 2;
+
+// The scripted interface that prints each box as soon as it is shown.
+class InterfazLote : public InterfazGuionada {
+ public:
+  InterfazLote(const std::string& respuestas, bool porDefecto) : InterfazGuionada(respuestas, porDefecto) {}
+
+  void Mensaje(const std::string& texto, const std::string& título = "") override {
+    InterfazGuionada::Mensaje(texto, título);
+    Emitir();
+  }
+  bool Pregunta(const std::string& texto, const std::string& título = "") override {
+    const bool r = InterfazGuionada::Pregunta(texto, título);
+    Emitir();
+    return r;
+  }
+  void Estado(const std::string& texto) override {
+    InterfazGuionada::Estado(texto);
+    Emitir();
+  }
+  void Abrir(Pantalla& pantalla) override {
+    InterfazGuionada::Abrir(pantalla);
+    Emitir();
+  }
+  std::optional<std::string> ElegirArchivoAbrir(const std::string& filtro, int índice) override {
+    auto r = InterfazGuionada::ElegirArchivoAbrir(filtro, índice);
+    Emitir();
+    return r;
+  }
+  std::optional<std::string> ElegirArchivoGuardar(const std::string& filtro, int índice) override {
+    auto r = InterfazGuionada::ElegirArchivoGuardar(filtro, índice);
+    Emitir();
+    return r;
+  }
+  void Ayuda(const std::string& archivo) override {
+    InterfazGuionada::Ayuda(archivo);
+    Emitir();
+  }
+
+  // Prints what has not been printed yet. A screen's own line is recorded before the boxes it
+  // shows, so the order on the output is the order of the run.
+  void Emitir() {
+    const auto& t = Transcripción();
+    for (; impresas_ < t.size(); ++impresas_) {
+      líneas_.push_back(Línea(t[impresas_]));
+      std::cout << líneas_.back() << '\n';
+    }
+    std::cout.flush();
+  }
+  const std::vector<std::string>& Líneas() const { return líneas_; }
+
+ private:
+  std::size_t impresas_ = 0;
+  std::vector<std::string> líneas_;
+};
+
+int UsoIncorrecto(const std::string& mensaje) {
+  const std::string uso = kUso;
+  std::cerr << "lomaterra-lote: " << mensaje << "\n" << uso.substr(0, uso.find('\n') + 1)
+            << "Escriba lomaterra-lote --ayuda para ver todas las opciones.\n";
+  return kUsoIncorrecto;
+}
+
+// Every command must be a built menu entry; nothing runs unless all are.
+std::string ComprobarComandos(const std::vector<EntradaMenú>& árbol, const std::vector<std::string>& comandos) {
+  for (const auto& c : comandos) {
+    const EntradaMenú* e = BuscarEntrada(árbol, c);
+    if (!e) return "Comando desconocido: " + c + ". Los comandos se nombran por el nombre de control del menú (por ejemplo MétodoFellenius).";
+    if (e->EsSubmenú) return c + " es un menú, no un comando: nombre uno de sus comandos.";
+    if (!e->acción) return "El comando " + c + " todavía no está disponible en esta versión de Lomaterra.";
+  }
+  return "";
+}
+
+bool EscribirTexto(const std::string& ruta, const std::string& texto) {
+  std::ofstream f(ruta, std::ios::binary | std::ios::trunc);
+  if (!f) return false;
+  f << texto;
+  f.close();
+  return !f.fail();
+}
+
+int Correr(const std::vector<std::string>& argumentos) {
+  Opciones o;
+  if (auto error = LeerArgumentos(argumentos, o); !error.empty()) return UsoIncorrecto(error);
+  if (o.ayuda) {
+    std::cout << kUso;
+    return kBien;
+  }
+  const std::vector<EntradaMenú> árbol = ÁrbolDeMenús();
+  if (auto error = ComprobarComandos(árbol, o.comandos); !error.empty()) return UsoIncorrecto(error);
+
+  std::error_code ec;
+  if (!std::filesystem::is_regular_file(o.proyecto, ec)) {
+    std::cerr << "lomaterra-lote: no existe el archivo de proyecto \"" << o.proyecto << "\".\n";
+    return kUsoIncorrecto;
+  }
+
+  Proyecto p;
+  InterfazLote ui(o.respuestas, o.porDefecto);
+  if (!LeerProyecto(p, o.proyecto, ui)) {
+    std::cerr << "lomaterra-lote: no se pudo leer el proyecto \"" << o.proyecto << "\".\n";
+    return kUsoIncorrecto;
+  }
+  // As the Open command leaves the window.
+  p.Ventana.NombreArchivo = o.proyecto;
+  p.Ventana.Título = TítuloDeArchivo(o.proyecto) + " - Lomaterra";
+  p.DatosGuardados = false;
+
+  bool fallo = false;
+  for (const auto& c : o.comandos) {
+    const EntradaMenú* e = BuscarEntrada(árbol, c);
+    FinDeComando fin = FinDeComando::Normal;
+    try {
+      fin = EjecutarComando(e->acción, p, ui);
+    } catch (const std::exception& ex) {
+      ui.Emitir();
+      std::cerr << "lomaterra-lote: el comando " << c << " terminó por una falla no prevista: " << ex.what() << "\n";
+      fin = FinDeComando::Fallo;
+    }
+    ui.Emitir();
+    if (fin == FinDeComando::Fallo) {
+      fallo = true;
+      std::cerr << "lomaterra-lote: " << c << " terminó en falla; los comandos siguientes no se ejecutaron.\n";
+      break;
+    }
+    if (p.Ventana.SalirDelPrograma) break;
+  }
+
+  int estado = fallo ? kFallo : kBien;
+  if (o.guardar) {
+    if (fallo) {
+      std::cerr << "lomaterra-lote: no se guardó \"" << *o.guardar << "\" porque un comando terminó en falla.\n";
+    } else {
+      bool guardado = false;
+      try {
+        guardado = GuardarProyecto(p, *o.guardar, ui);
+      } catch (const std::exception& ex) {
+        std::cerr << "lomaterra-lote: falla no prevista al guardar: " << ex.what() << "\n";
+      }
+      ui.Emitir();
+      if (!guardado) {
+        std::cerr << "lomaterra-lote: no se guardó el proyecto en \"" << *o.guardar << "\".\n";
+        estado = kFallo;
+      }
+    }
+  }
+
+  const Resumen resumen = ResumirProyecto(p);
+  std::cout << ResumenComoTexto(resumen);
+  std::cout.flush();
+
+  if (o.json) {
+    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen};
+    if (!EscribirTexto(*o.json, InformeComoJson(informe))) {
+      std::cerr << "lomaterra-lote: no se pudo escribir \"" << *o.json << "\".\n";
+      estado = kFallo;
+    }
+  }
+  return estado;
+}
+
+}  // namespace
+}  // namespace lomaterra::lote
+
+int main(int argc, char** argv) {
+  std::vector<std::string> argumentos(argv + 1, argv + argc);
+  try {
+    return lomaterra::lote::Correr(argumentos);
+  } catch (const std::exception& e) {
+    std::cerr << "lomaterra-lote: falla no prevista: " << e.what() << "\n";
+    return 1;
+  }
 }

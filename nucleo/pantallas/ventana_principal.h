@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lomaterra {
@@ -47,6 +48,8 @@ void PanelBorrar(Proyecto& p, Interfaz& ui);     // BotónBorrar
 void PanelModificar(Proyecto& p, Interfaz& ui);  // BotónModificar
 // A stratum chosen in ListaEstrato (row 0 is the prompt).
 void PanelElegirEstrato(Proyecto& p, Interfaz& ui, int fila);
+// The rows of ListaCoordenadas as the list view shows them: X and Y in "#0.00".
+std::vector<std::pair<std::string, std::string>> FilasCoordenadas(const EstadoVentana& v);
 // TextoProyecto edited by the user.
 void CambiarTextoProyecto(Proyecto& p, const std::string& texto);
 

@@ -173,7 +173,8 @@ std::string LectorSecuencial::LeerLetra(bool& valor) {
 }
 
 std::string RealParaArchivo(double x) {
-  if (x == 0) return "0";
+  // A value that is not a number would make the file unreadable: it is written as 0.
+  if (x == 0 || !std::isfinite(x)) return "0";
   char buf[64];
   auto r = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::general, 15);
   std::string s(buf, r.ptr);
@@ -225,9 +226,9 @@ bool EscritorSecuencial::GuardarEn(const std::string& ruta, std::string* error) 
     const std::string bytes = CodificarWindows1252(texto_);
     f.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     f.flush();
-    if (!f) {
+    f.close();
+    if (f.fail()) {
       if (error) *error = "no se pudo escribir el archivo completo";
-      f.close();
       std::error_code ec;
       fs::remove(temporal, ec);
       return false;

@@ -1,0 +1,116 @@
+#include "opciones.h"
+
+#include <functional>
+
+namespace lomaterra::lote {
+
+const char* const kUso =
+    "Uso: lomaterra-lote PROYECTO.cod COMANDO [COMANDO ...] [--respuestas SNSN...] "
+    "[--por-defecto S|N] [--json SALIDA.json] [--guardar OTRO.cod]\n"
+    "\n"
+    "Lee el proyecto, corre los comandos del menú por su nombre de control (por ejemplo\n"
+    "MétodoFellenius) y muestra lo que cada comando dijo y un resumen de los resultados.\n"
+    "\n"
+    "  --respuestas SNSN...  responde a las preguntas, en orden, con S (sí) o N (no)\n"
+    "  --por-defecto S|N     respuesta cuando se acaban las letras (N si no se da)\n"
+    "  --json SALIDA.json    escribe la transcripción y el resumen en JSON\n"
+    "  --guardar OTRO.cod    guarda el proyecto al terminar los comandos\n"
+    "  --ayuda               muestra este texto\n"
+    "\n"
+    "Estado de salida: 0 los comandos corrieron (digan lo que digan sus mensajes); 1 una falla\n"
+    "no prevista terminó un comando, o no se pudo guardar lo pedido; 2 uso incorrecto o proyecto\n"
+    "que no se pudo leer.\n";
+
+namespace {
+
+bool SoloSN(const std::string& s) {
+  for (char c : s)
+    if (c != 'S' && c != 'N' && c != 's' && c != 'n') return false;
+  return true;
+}
+
+std::string Mayúscula(std::string s) {
+  for (char& c : s)
+    if (c == 's') c = 'S';
+    else if (c == 'n') c = 'N';
+  return s;
+}
+
+struct OpciónConValor {
+  const char* nombre;
+  // Stores the value; returns an error message or an empty text.
+  std::function<std::string(const std::string&, Opciones&)> guardar;
+};
+
+const std::vector<OpciónConValor>& TablaOpciones() {
+  static const std::vector<OpciónConValor> t = {
+      {"--respuestas",
+       [](const std::string& v, Opciones& o) -> std::string {
+         if (!SoloSN(v)) return "--respuestas admite solo las letras S y N, y se dio \"" + v + "\".";
+         o.respuestas = Mayúscula(v);
+         return "";
+       }},
+      {"--por-defecto",
+       [](const std::string& v, Opciones& o) -> std::string {
+         if (v.size() != 1 || !SoloSN(v)) return "--por-defecto admite S o N, y se dio \"" + v + "\".";
+         o.porDefecto = Mayúscula(v) == "S";
+         return "";
+       }},
+      {"--json",
+       [](const std::string& v, Opciones& o) -> std::string {
+         o.json = v;
+         return "";
+       }},
+      {"--guardar",
+       [](const std::string& v, Opciones& o) -> std::string {
+         o.guardar = v;
+         return "";
+       }},
+  };
+  return t;
+}
+
+}  // namespace
+
+std::string LeerArgumentos(const std::vector<std::string>& argumentos, Opciones& o) {
+  std::vector<std::string> vistas;
+  std::vector<std::string> posicionales;
+  for (std::size_t i = 0; i < argumentos.size(); ++i) {
+    const std::string& a = argumentos[i];
+    if (a == "--ayuda" || a == "-h" || a == "--help") {
+      o.ayuda = true;
+      return "";
+    }
+    if (a.rfind("--", 0) == 0) {
+      std::string nombre = a, valor;
+      bool conValor = false;
+      if (const auto igual = a.find('='); igual != std::string::npos) {
+        nombre = a.substr(0, igual);
+        valor = a.substr(igual + 1);
+        conValor = true;
+      }
+      const OpciónConValor* opción = nullptr;
+      for (const auto& t : TablaOpciones())
+        if (nombre == t.nombre) opción = &t;
+      if (!opción) return "Opción desconocida: " + nombre + ".";
+      for (const auto& v : vistas)
+        if (v == nombre) return "La opción " + nombre + " se dio más de una vez.";
+      vistas.push_back(nombre);
+      if (!conValor) {
+        if (i + 1 >= argumentos.size()) return "Falta el valor de la opción " + nombre + ".";
+        valor = argumentos[++i];
+      }
+      if (valor.empty() && nombre != "--respuestas") return "La opción " + nombre + " necesita un valor.";
+      if (auto error = opción->guardar(valor, o); !error.empty()) return error;
+      continue;
+    }
+    posicionales.push_back(a);
+  }
+  if (posicionales.empty()) return "Falta el archivo del proyecto.";
+  o.proyecto = posicionales.front();
+  o.comandos.assign(posicionales.begin() + 1, posicionales.end());
+  if (o.comandos.empty()) return "Falta al menos un comando (por ejemplo MétodoFellenius).";
+  return "";
+}
+
+}  // namespace lomaterra::lote

@@ -1,0 +1,29 @@
+// The command line of lomaterra-lote: the project, the commands by their control names, and the
+// options. New options (an output to PDF, a figure) are one row of the table in opciones.cpp and
+// one field here.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lomaterra::lote {
+
+struct Opciones {
+  std::string proyecto;
+  std::vector<std::string> comandos;
+  std::string respuestas;  // "SNSN...": one letter a question, in order
+  bool porDefecto = false; // the answer when the letters run out
+  std::optional<std::string> json;
+  std::optional<std::string> guardar;
+  bool ayuda = false;
+};
+
+// The usage text printed with --ayuda and after a usage error.
+extern const char* const kUso;
+
+// Reads the arguments after the program name. Returns an empty text when they are well formed,
+// otherwise a Spanish message that says what is wrong.
+std::string LeerArgumentos(const std::vector<std::string>& argumentos, Opciones& o);
+
+}  // namespace lomaterra::lote

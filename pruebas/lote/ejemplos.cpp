@@ -1,0 +1,199 @@
+// The sample projects: one slope 10 m high at 2 horizontal to 1 vertical, crest at elevation 20
+// from X = 60 to 40, toe at elevation 10 from X = 20 to 0 (X descends from the crest side), with
+// four different failure surfaces and soils. Tons and metres.
+//
+// To write the files again after a change of the format or of a sample:
+//   prueba_lote --gtest_also_run_disabled_tests --gtest_filter='*GenerarEjemplos*'
+#include "lote/ejemplos.h"
+
+#include <initializer_list>
+#include <utility>
+
+namespace lomaterra::pruebas {
+
+namespace {
+
+void Puntos(TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> puntos) {
+  n = static_cast<Entero>(puntos.size());
+  t.Redimensionar(n);
+  long i = 1;
+  for (auto [x, y] : puntos) {
+    t.X[i] = x;
+    t.Y[i] = y;
+    ++i;
+  }
+}
+
+struct Suelo {
+  double c, fi, húmedo, saturado;
+  Entero tipo = 0;  // 1 fill ("A"), 0 natural ("B")
+  double b = 0, cv = 0, meses = 0;
+  std::vector<std::pair<double, double>> línea;  // lower boundary, X descending
+};
+
+void Estratos(Proyecto& p, const std::vector<Suelo>& suelos) {
+  const long n = static_cast<long>(suelos.size());
+  long mayor = 0;
+  for (const auto& s : suelos) mayor = std::max<long>(mayor, static_cast<long>(s.línea.size()));
+  p.NúmeroEstratos = static_cast<Entero>(n);
+  p.NúmeroEstratosCaracterizados = static_cast<Entero>(n);
+  p.EstratosCaracterizados = true;
+  p.PuntosEstrato.Redimensionar(n);
+  p.XEstrato.Redimensionar(n, mayor);
+  p.YEstrato.Redimensionar(n, mayor);
+  p.Estrato.RedimensionarConservando(n);
+  for (long s = 1; s <= n; ++s) {
+    const Suelo& d = suelos[static_cast<std::size_t>(s - 1)];
+    p.Estrato.Cohesión[s] = d.c;
+    p.Estrato.Fricción[s] = d.fi;
+    p.Estrato.PesoUnitarioHúmedo[s] = d.húmedo;
+    p.Estrato.PesoUnitarioSaturado[s] = d.saturado;
+    p.Estrato.TipoEstrato[s] = d.tipo;
+    p.Estrato.ParámetroPresión[s] = d.b;
+    p.Estrato.CoeficienteConsolidaciónVertical[s] = d.cv;
+    p.Estrato.TiempoDeConstrucción[s] = d.meses;
+    p.PuntosEstrato[s] = static_cast<Entero>(d.línea.size());
+    long j = 1;
+    for (auto [x, y] : d.línea) {
+      p.XEstrato(s, j) = x;
+      p.YEstrato(s, j) = y;
+      ++j;
+    }
+  }
+}
+
+// Stretches of the failure surface: {first point, last point, letter}.
+struct Tramo {
+  double inicial, final;
+  const char* tipo;
+};
+
+void Tramos(Proyecto& p, std::initializer_list<Tramo> tramos) {
+  p.NúmeroTramosFalla = static_cast<Entero>(tramos.size());
+  p.TramoFalla.Redimensionar(p.NúmeroTramosFalla);
+  long i = 1;
+  for (const Tramo& t : tramos) {
+    p.TramoFalla.PuntoInicial[i] = t.inicial;
+    p.TramoFalla.PuntoFinal[i] = t.final;
+    p.TramoFalla.TipoUnión[i] = t.tipo;
+    ++i;
+  }
+  p.GeometríaFallaDefinida = true;
+}
+
+// What every sample shares: a soil slope for limit equilibrium by Fellenius.
+Proyecto Base(const std::string& descripción, const std::string& progresiva) {
+  Proyecto p;
+  p.TipoDeAnálisis = "T";
+  p.TipoDeMaterial = "S";
+  p.InformaciónDada = true;
+  p.Ventana.TextoProyecto = descripción;
+  p.InformaciónProyecto = {progresiva, progresiva, "15/01/2026", "Ing. Responsable", "Lomaterra, proyecto de ejemplo"};
+  Puntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
+  auto& pi = p.ParámetrosIniciales;
+  pi.MétodoDeCálculo = 3;
+  pi.FSInicial = 1.5;
+  pi.NúmeroDovelas = 20;
+  p.ParámetrosInicialesDados = true;
+  p.NúmeroCargasUniformes = 0;
+  p.NúmeroCargasPuntuales = 0;
+  return p;
+}
+
+// The writer stores the coordinate panel first: it holds the surface, as after opening a file.
+Proyecto Terminar(Proyecto p) {
+  CargarPanelCoordenadas(p, 1, 1);
+  return p;
+}
+
+}  // namespace
+
+// One soil, dry, on one circular arc from the crest (45, 20) to beyond the toe (15, 10) with a
+// radius of 25 m: the centre falls at about (23.88, 33.37) and the arc dips 1.6 m below the toe.
+Proyecto TaludHomogéneo() {
+  Proyecto p = Base("Talud homogéneo de 10 m de altura, pendiente 2H:1V, superficie de falla circular. "
+                    "Suelo arcilloso-arenoso seco. Método de Fellenius.",
+                    "K0+100");
+  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {15, 10}});
+  Tramos(p, {{1, 2, "C"}});
+  p.ParámetrosIniciales.Radio = 25;
+  Estratos(p, {{2.5, 25, 1.8, 2.0, 0, 0, 0, 0, {{60, -10}, {0, -10}}}});
+  return Terminar(p);
+}
+
+// A compacted fill (letter "A", parameter B 0.3, no consolidation considered) over a clay
+// and a dense sand; a phreatic line; a polyline failure surface whose upper end is the foot of a
+// tension crack 3 m deep with 1.5 m of water (thrust 0.5 x 1.5² = 1.125 t/m); a strip load of
+// 2 t/m2 and a line load of 5 t/m on the crest.
+Proyecto TaludEstratificado() {
+  Proyecto p = Base("Talud estratificado: relleno compactado sobre arcilla y arena densa, con nivel freático, "
+                    "grieta de tracción con agua, sobrecarga uniforme y carga puntual en la corona. "
+                    "Superficie de falla poligonal. Método de Fellenius.",
+                    "K0+250");
+  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 17}, {38, 12}, {28, 6}, {18, 6.5}, {12, 10}});
+  Tramos(p, {{1, 2, "L"}, {2, 3, "L"}, {3, 4, "L"}, {4, 5, "L"}});
+  Puntos(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{46, 18.5}, {38, 15}, {24, 11}, {20, 9.8}, {0, 9.5}});
+  Estratos(p, {
+                  {1.0, 30, 1.9, 2.05, 1, 0.3, 0, 0, {{60, 14}, {28, 14}}},
+                  {2.5, 22, 1.8, 1.95, 0, 0, 0, 0, {{60, 7}, {0, 7}}},
+                  {0.5, 34, 1.9, 2.1, 0, 0, 0, 0, {{60, -10}, {0, -10}}},
+              });
+  p.ParámetrosIniciales.NúmeroDovelas = 25;
+  p.NúmeroCargasUniformes = 1;
+  p.CargaUniforme.Redimensionar(1);
+  p.CargaUniforme.xo[1] = 41; p.CargaUniforme.yo[1] = 20;
+  p.CargaUniforme.xf[1] = 45; p.CargaUniforme.yf[1] = 20;
+  p.CargaUniforme.qx[1] = 0; p.CargaUniforme.qy[1] = 2;
+  p.CargasUniformesDadas = true;
+  p.NúmeroCargasPuntuales = 1;
+  p.CargaPuntual.Redimensionar(1);
+  p.CargaPuntual.Xpuntual[1] = 43; p.CargaPuntual.Ypuntual[1] = 20;
+  p.CargaPuntual.Px[1] = 0; p.CargaPuntual.Py[1] = 5;
+  p.CargasPuntualesDadas = true;
+  auto& g = p.GrietaTracción;
+  g.AbscisaPrimerPunto = 46; g.OrdenadaPrimerPunto = 20;
+  g.AbscisaSegundoPunto = 46; g.OrdenadaSegundoPunto = 17;
+  g.AbscisaNF = 46; g.OrdenadaNF = 18.5;
+  g.EmpujeGrieta = 0.5 * (18.5 - 17) * (18.5 - 17);
+  return Terminar(p);
+}
+
+// A straight stretch down from the crest to (34, 7), an arc between points 2 and 3 on a level
+// chord, fitted to the chord that follows (radius about 14.2 m, centre near (29, 20.3), lowest at
+// about elevation 6.1), and a straight stretch out at the toe. The arc's chord is level on
+// purpose: an inner edge belongs to the last stretch that accepts it, and a later stretch whose
+// chord descends would also take every edge above its first point.
+Proyecto FallaMixtaC() {
+  Proyecto p = Base("Talud homogéneo con superficie de falla mixta: tramo recto, arco circular entre los puntos 2 y 3, "
+                    "tramo recto de salida al pie. Método de Fellenius.",
+                    "K0+400");
+  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 20}, {34, 7}, {24, 7}, {16, 10}});
+  Tramos(p, {{1, 2, "L"}, {2, 3, "C"}, {3, 4, "L"}});
+  Estratos(p, {{2.0, 27, 1.85, 2.0, 0, 0, 0, 0, {{60, -10}, {0, -10}}}});
+  return Terminar(p);
+}
+
+// A cubic through the first four points (lowest at about elevation 8.2 near X = 24) and a straight
+// stretch out to the toe; a phreatic line below the slope face.
+Proyecto FallaPolinómica() {
+  Proyecto p = Base("Talud homogéneo con nivel freático y superficie de falla polinómica por los cuatro primeros puntos, "
+                    "con salida recta al pie. Método de Fellenius.",
+                    "K0+550");
+  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{46, 20}, {38, 12.5}, {28, 8.5}, {18, 8.8}, {12, 10}});
+  Tramos(p, {{1, 4, "P"}, {4, 5, "L"}});
+  Puntos(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{60, 15}, {40, 14}, {22, 10.3}, {20, 9.9}, {0, 9.6}});
+  Estratos(p, {{2.0, 26, 1.85, 2.0, 0, 0, 0, 0, {{60, -10}, {0, -10}}}});
+  return Terminar(p);
+}
+
+const std::vector<Ejemplo>& Ejemplos() {
+  static const std::vector<Ejemplo> e = {
+      {"talud_homogeneo.cod", TaludHomogéneo},
+      {"talud_estratificado.cod", TaludEstratificado},
+      {"falla_mixta_c.cod", FallaMixtaC},
+      {"falla_polinomica.cod", FallaPolinómica},
+  };
+  return e;
+}
+
+}  // namespace lomaterra::pruebas

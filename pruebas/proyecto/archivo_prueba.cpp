@@ -1,0 +1,741 @@
+// The project file: write and read back, the conditional items, the tidy-ups of the writer, the
+// derivations of the reader, older number forms, damaged files.
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <filesystem>
+#include <fstream>
+#include <locale>
+#include <sstream>
+
+#include "apoyo/apoyo.h"
+#include "proyecto/archivo.h"
+#include "proyecto/interfaz_guionada.h"
+
+namespace lomaterra {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string LeerBytes(const std::string& ruta) {
+  std::ifstream f(ruta, std::ios::binary);
+  return std::string((std::istreambuf_iterator<char>(f)), {});
+}
+
+void EscribirBytes(const std::string& ruta, const std::string& bytes) {
+  std::ofstream f(ruta, std::ios::binary);
+  f << bytes;
+}
+
+// Lines of a file as it stands, without their CR LF.
+std::vector<std::string> Líneas(const std::string& bytes) {
+  std::vector<std::string> r;
+  std::size_t i = 0;
+  while (i < bytes.size()) {
+    const auto fin = bytes.find("\r\n", i);
+    if (fin == std::string::npos) { r.push_back(bytes.substr(i)); break; }
+    r.push_back(bytes.substr(i, fin - i));
+    i = fin + 2;
+  }
+  return r;
+}
+
+void XY(TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> puntos) {
+  n = static_cast<Entero>(puntos.size());
+  t.Redimensionar(n);
+  long i = 1;
+  for (auto [x, y] : puntos) { t.X[i] = x; t.Y[i] = y; ++i; }
+}
+
+// A layered soil slope with every part of the format that a soil project uses.
+Proyecto ProyectoSuelo(bool conResultados) {
+  Proyecto p;
+  p.TipoDeAnálisis = "T";
+  p.TipoDeMaterial = "S";
+  p.Ventana.TextoProyecto = "Talud de la vía, abscisa K2+350";
+  p.InformaciónProyecto = {"K2+300", "K2+400", "12/03/2025", "Ing. Núñez", "Geotecnia Andina"};
+  auto& pi = p.ParámetrosIniciales;
+  pi.MétodoDeCálculo = 2;
+  pi.Multiplicador1 = 0.25; pi.Multiplicador2 = -1.5; pi.FSInicial = 1.35; pi.EsfuerzoInicialCresta = 2.75;
+  pi.Radio = 26.5; pi.ReferenciaMomentoX = 0; pi.ReferenciaMomentoY = 0;
+  pi.CoeficienteSísmicoHorizontal = 0.15; pi.CoeficienteSísmicoVertical = 0.05; pi.NúmeroDovelas = 12;
+  pi.VaríaRadio = true;
+  XY(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{60, 20}, {40, 20}, {20, 10}, {0, 10}});
+  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {15, 10}});
+  p.NúmeroTramosFalla = 1;
+  p.TramoFalla.Redimensionar(1);
+  p.TramoFalla.PuntoInicial[1] = 1; p.TramoFalla.PuntoFinal[1] = 2; p.TramoFalla.TipoUnión[1] = "C";
+  XY(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{60, 16}, {30, 12.5}, {0, 9.75}});
+  p.NúmeroEstratos = 2;
+  p.NúmeroEstratosCaracterizados = 2;
+  p.PuntosEstrato.Redimensionar(2);
+  p.PuntosEstrato[1] = 3; p.PuntosEstrato[2] = 2;
+  p.XEstrato.Redimensionar(2, 3); p.YEstrato.Redimensionar(2, 3);
+  const double xs[2][3] = {{60, 35, 28}, {60, 0, 0}}, ys[2][3] = {{14, 14, 14}, {-5, -5, 0}};
+  for (int s = 1; s <= 2; ++s)
+    for (int j = 1; j <= p.PuntosEstrato[s]; ++j) { p.XEstrato(s, j) = xs[s - 1][j - 1]; p.YEstrato(s, j) = ys[s - 1][j - 1]; }
+  p.Estrato.RedimensionarConservando(2);
+  p.Estrato.Cohesión[1] = 1.5; p.Estrato.Fricción[1] = 28; p.Estrato.PesoUnitarioHúmedo[1] = 1.85; p.Estrato.PesoUnitarioSaturado[1] = 2.05;
+  p.Estrato.TipoEstrato[1] = 1; p.Estrato.ParámetroPresión[1] = 0.3; p.Estrato.CoeficienteConsolidaciónVertical[1] = 0.002; p.Estrato.TiempoDeConstrucción[1] = 4;
+  p.Estrato.Cohesión[2] = 3.2; p.Estrato.Fricción[2] = 22.5; p.Estrato.PesoUnitarioHúmedo[2] = 1.75; p.Estrato.PesoUnitarioSaturado[2] = 1.95;
+  p.NúmeroCargasUniformes = 1;
+  p.CargaUniforme.Redimensionar(1);
+  p.CargaUniforme.xo[1] = 41; p.CargaUniforme.yo[1] = 20; p.CargaUniforme.xf[1] = 45; p.CargaUniforme.yf[1] = 20;
+  p.CargaUniforme.qx[1] = 0.5; p.CargaUniforme.qy[1] = 2;
+  p.NúmeroCargasPuntuales = 1;
+  p.CargaPuntual.Redimensionar(1);
+  p.CargaPuntual.Xpuntual[1] = 43; p.CargaPuntual.Ypuntual[1] = 20; p.CargaPuntual.Px[1] = -0.75; p.CargaPuntual.Py[1] = 5;
+  p.GrietaTracción = {45, 20, 45, 17.5, 45, 18.5, 0.5};
+  p.SumaTangenciales = 35.125; p.SumaNormalesTotales = 170.5; p.SumaNormalesEfectivos = 120.25;
+  p.SumaPrincipalesMayores = 0; p.SumaPrincipalesMenores = 0;
+  p.Anclajes = {1.6, 15, 0.032, 18000, 4, 2.5, 3};
+  if (conResultados) {
+    p.CálculoHecho = true;
+    p.NúmeroBordes = 4;
+    auto& d = p.TablaDovelas;
+    for (Tabla<double>* t : {&d.Ancho, &d.XMedio, &d.YTalud, &d.YBase, &d.PresiónPoros, &d.FricciónBase, &d.CohesiónBase,
+                             &d.PesoUnitarioMedio, &d.EsfuerzoNormalTotal, &d.EsfuerzoNormalEfectivo, &d.EsfuerzoTangencial})
+      t->Redimensionar(3);
+    for (long i = 1; i <= 3; ++i) {
+      d.Ancho[i] = 10; d.XMedio[i] = 45 - 10 * i + 5; d.YTalud[i] = 20 - 2.5 * i; d.YBase[i] = 15 - 2 * i;
+      d.PresiónPoros[i] = 0.125 * i; d.FricciónBase[i] = 28 - i; d.CohesiónBase[i] = 1.5 + i;
+      d.PesoUnitarioMedio[i] = 1.8 + 0.01 * i; d.EsfuerzoNormalTotal[i] = 10.5 * i; d.EsfuerzoNormalEfectivo[i] = 10 * i;
+      d.EsfuerzoTangencial[i] = -1.0 / 8 * i;
+    }
+    p.NúmeroIteraciones = 3;
+    p.HistoriaIteraciones.Redimensionar(3);
+    p.HistoriaIteraciones.FactorDeSeguridad[1] = 1.2;
+    p.HistoriaIteraciones.FactorDeSeguridad[3] = 1.4375;
+  }
+  // The panel holds the surface, as after a file was opened: the writer stores it first.
+  CargarPanelCoordenadas(p, 1, 1);
+  return p;
+}
+
+// A rock slope; `instantáneos` orders the instantaneous parameters.
+Proyecto ProyectoRoca(bool conResultados, bool instantáneos) {
+  Proyecto p = ProyectoSuelo(false);
+  p.TipoDeMaterial = "R";
+  p.Roca.TipoDeObra = "O";
+  p.Roca.FactorPerturbación = 0.7;
+  p.Roca.AlturaH = 35;
+  auto& pi = p.ParámetrosIniciales;
+  pi.MétodoDeCálculo = 1;
+  pi.EsfuerzoInicialCresta = 0;
+  pi.UsaParámetrosInstantáneos = instantáneos;
+  pi.ParámetrosInstantáneos = instantáneos ? 2 : 0;
+  p.Estrato.BorrarSuelo();
+  p.Estrato.RedimensionarConservando(2);
+  for (long s = 1; s <= 2; ++s) {
+    p.Estrato.m_intacta[s] = 10 + s; p.Estrato.Parámetro_GSI[s] = 45 + 5 * s; p.Estrato.m_macizo[s] = 1.25 * s;
+    p.Estrato.s_macizo[s] = 0.0039 * s; p.Estrato.C_Simple[s] = 450 + s; p.Estrato.PesoUnitarioHúmedo[s] = 2.5;
+    p.Estrato.PesoUnitarioSaturado[s] = 2.6;
+  }
+  p.Roca.EnsayosDados = true;
+  p.Roca.PuntosEnsayo.Redimensionar(2);
+  p.Roca.PuntosEnsayo[1] = 3; p.Roca.PuntosEnsayo[2] = 1;
+  p.Roca.EnsayoSigma1.Redimensionar(2, 3); p.Roca.EnsayoSigma3.Redimensionar(2, 3);
+  for (long j = 1; j <= 3; ++j) { p.Roca.EnsayoSigma1(1, j) = 100 + 40 * j; p.Roca.EnsayoSigma3(1, j) = 5 * j; }
+  p.Roca.EnsayoSigma1(2, 1) = 210.5; p.Roca.EnsayoSigma3(2, 1) = 12.25;
+  p.SumaPrincipalesMayores = 402.5; p.SumaPrincipalesMenores = -12.125;
+  if (conResultados) {
+    p.CálculoHecho = true;
+    p.NúmeroBordes = 3;
+    auto& d = p.TablaDovelas;
+    for (Tabla<double>* t : {&d.Ancho, &d.XMedio, &d.YTalud, &d.YBase, &d.PresiónPoros, &d.m_Base, &d.s_Base, &d.FricciónBase,
+                             &d.CohesiónBase, &d.a_Base, &d.PesoUnitarioMedio, &d.EsfuerzoNormalTotal,
+                             &d.EsfuerzoNormalEfectivo, &d.EsfuerzoTangencial, &d.EsfuerzoPrincipalMayor, &d.EsfuerzoPrincipalMenor})
+      t->Redimensionar(2);
+    for (long i = 1; i <= 2; ++i) {
+      d.Ancho[i] = 15; d.XMedio[i] = 37.5 - 15 * (i - 1); d.YTalud[i] = 18 - 6 * i; d.YBase[i] = 12 - 4 * i;
+      d.PresiónPoros[i] = 0.5 * i; d.m_Base[i] = 1.25; d.s_Base[i] = 0.0039; d.FricciónBase[i] = 40 + i;
+      d.CohesiónBase[i] = 12.5 * i; d.a_Base[i] = 0.505; d.PesoUnitarioMedio[i] = 2.55; d.EsfuerzoNormalTotal[i] = 30.5 * i;
+      d.EsfuerzoNormalEfectivo[i] = 30 * i; d.EsfuerzoTangencial[i] = 9.75 * i; d.EsfuerzoPrincipalMayor[i] = 60 + i;
+      d.EsfuerzoPrincipalMenor[i] = -0.5 * i;
+    }
+    p.NúmeroIteraciones = 7;
+    p.HistoriaIteraciones.Redimensionar(7);
+    p.HistoriaIteraciones.Multiplicador1[7] = 0.125;
+    p.HistoriaIteraciones.Multiplicador2[7] = -2.5;
+    p.HistoriaIteraciones.FactorDeSeguridad[7] = 2.0625;
+  }
+  return p;
+}
+
+void IgualesXY(const TablaXY& a, const TablaXY& b, long n, const char* qué) {
+  for (long i = 1; i <= n; ++i) {
+    EXPECT_EQ(a.X.Leer(i), b.X.Leer(i)) << qué << " X " << i;
+    EXPECT_EQ(a.Y.Leer(i), b.Y.Leer(i)) << qué << " Y " << i;
+  }
+}
+
+template <typename T>
+void Iguales(const Tabla<T>& a, const Tabla<T>& b, long n, const char* qué) {
+  for (long i = 1; i <= n; ++i) EXPECT_EQ(a.Leer(i), b.Leer(i)) << qué << " fila " << i;
+}
+
+// Every table and scalar that the file carries for a "T" project.
+void CompararProyectos(const Proyecto& a, const Proyecto& b) {
+  EXPECT_EQ(a.Ventana.TextoProyecto, b.Ventana.TextoProyecto);
+  EXPECT_EQ(a.InformaciónProyecto.ProgresivaInicial, b.InformaciónProyecto.ProgresivaInicial);
+  EXPECT_EQ(a.InformaciónProyecto.ProgresivaFinal, b.InformaciónProyecto.ProgresivaFinal);
+  EXPECT_EQ(a.InformaciónProyecto.FechaProyecto, b.InformaciónProyecto.FechaProyecto);
+  EXPECT_EQ(a.InformaciónProyecto.IngResponsable, b.InformaciónProyecto.IngResponsable);
+  EXPECT_EQ(a.InformaciónProyecto.Empresa, b.InformaciónProyecto.Empresa);
+  EXPECT_EQ(a.TipoDeAnálisis, b.TipoDeAnálisis);
+  EXPECT_EQ(a.TipoDeMaterial, b.TipoDeMaterial);
+  EXPECT_EQ(a.Sísmico.CálculoSísmicoHecho, b.Sísmico.CálculoSísmicoHecho);
+  const auto &pa = a.ParámetrosIniciales, &pb = b.ParámetrosIniciales;
+  EXPECT_EQ(pa.UsaParámetrosInstantáneos, pb.UsaParámetrosInstantáneos);
+  EXPECT_EQ(pa.MétodoDeCálculo, pb.MétodoDeCálculo);
+  EXPECT_EQ(pa.Multiplicador1, pb.Multiplicador1);
+  EXPECT_EQ(pa.Multiplicador2, pb.Multiplicador2);
+  EXPECT_EQ(pa.FSInicial, pb.FSInicial);
+  EXPECT_EQ(pa.EsfuerzoInicialCresta, pb.EsfuerzoInicialCresta);
+  EXPECT_EQ(pa.Radio, pb.Radio);
+  EXPECT_EQ(pa.CoeficienteSísmicoHorizontal, pb.CoeficienteSísmicoHorizontal);
+  EXPECT_EQ(pa.CoeficienteSísmicoVertical, pb.CoeficienteSísmicoVertical);
+  EXPECT_EQ(pa.NúmeroDovelas, pb.NúmeroDovelas);
+  if (pa.UsaParámetrosInstantáneos) {
+    EXPECT_EQ(pa.ParámetrosInstantáneos, pb.ParámetrosInstantáneos);
+  }
+  if (a.SuperficieCircular() && pa.MétodoDeCálculo == 2) {
+    EXPECT_EQ(pa.VaríaRadio, pb.VaríaRadio);
+  }
+  EXPECT_EQ(a.NúmeroPuntosTalud, b.NúmeroPuntosTalud);
+  IgualesXY(a.CoordenadasTalud, b.CoordenadasTalud, a.NúmeroPuntosTalud, "talud");
+  EXPECT_EQ(a.NúmeroPuntosFalla, b.NúmeroPuntosFalla);
+  IgualesXY(a.CoordenadasFalla, b.CoordenadasFalla, a.NúmeroPuntosFalla, "falla");
+  EXPECT_EQ(a.NúmeroTramosFalla, b.NúmeroTramosFalla);
+  Iguales(a.TramoFalla.PuntoInicial, b.TramoFalla.PuntoInicial, a.NúmeroTramosFalla, "PuntoInicial");
+  Iguales(a.TramoFalla.PuntoFinal, b.TramoFalla.PuntoFinal, a.NúmeroTramosFalla, "PuntoFinal");
+  Iguales(a.TramoFalla.TipoUnión, b.TramoFalla.TipoUnión, a.NúmeroTramosFalla, "TipoUnión");
+  EXPECT_EQ(a.NúmeroPuntosFreático, b.NúmeroPuntosFreático);
+  IgualesXY(a.CoordenadasFreático, b.CoordenadasFreático, a.NúmeroPuntosFreático, "freático");
+  EXPECT_EQ(a.NúmeroEstratos, b.NúmeroEstratos);
+  EXPECT_EQ(a.NúmeroEstratosCaracterizados, b.NúmeroEstratosCaracterizados);
+  const long ne = a.NúmeroEstratos;
+  Iguales(a.PuntosEstrato, b.PuntosEstrato, ne, "PuntosEstrato");
+  for (long s = 1; s <= ne; ++s)
+    for (long j = 1; j <= a.PuntosEstrato.Leer(s); ++j) {
+      EXPECT_EQ(a.XEstrato.Leer(s, j), b.XEstrato.Leer(s, j)) << s << "," << j;
+      EXPECT_EQ(a.YEstrato.Leer(s, j), b.YEstrato.Leer(s, j)) << s << "," << j;
+    }
+  const auto &ea = a.Estrato, &eb = b.Estrato;
+  Iguales(ea.PesoUnitarioHúmedo, eb.PesoUnitarioHúmedo, ne, "PesoUnitarioHúmedo");
+  Iguales(ea.PesoUnitarioSaturado, eb.PesoUnitarioSaturado, ne, "PesoUnitarioSaturado");
+  if (a.TipoDeMaterial == "S") {
+    Iguales(ea.Cohesión, eb.Cohesión, ne, "Cohesión");
+    Iguales(ea.Fricción, eb.Fricción, ne, "Fricción");
+    Iguales(ea.TipoEstrato, eb.TipoEstrato, ne, "TipoEstrato");
+    Iguales(ea.ParámetroPresión, eb.ParámetroPresión, ne, "ParámetroPresión");
+    Iguales(ea.CoeficienteConsolidaciónVertical, eb.CoeficienteConsolidaciónVertical, ne, "Cv");
+    Iguales(ea.TiempoDeConstrucción, eb.TiempoDeConstrucción, ne, "TiempoDeConstrucción");
+  } else {
+    Iguales(ea.m_intacta, eb.m_intacta, ne, "m_intacta");
+    Iguales(ea.Parámetro_GSI, eb.Parámetro_GSI, ne, "GSI");
+    Iguales(ea.m_macizo, eb.m_macizo, ne, "m_macizo");
+    Iguales(ea.s_macizo, eb.s_macizo, ne, "s_macizo");
+    Iguales(ea.C_Simple, eb.C_Simple, ne, "C_Simple");
+    EXPECT_EQ(a.Roca.TipoDeObra, b.Roca.TipoDeObra);
+    EXPECT_EQ(a.Roca.FactorPerturbación, b.Roca.FactorPerturbación);
+    EXPECT_EQ(a.Roca.AlturaH, b.Roca.AlturaH);
+    EXPECT_EQ(a.Roca.EnsayosDados, b.Roca.EnsayosDados);
+    if (a.Roca.EnsayosDados) {
+      Iguales(a.Roca.PuntosEnsayo, b.Roca.PuntosEnsayo, ne, "PuntosEnsayo");
+      for (long s = 1; s <= ne; ++s)
+        for (long j = 1; j <= a.Roca.PuntosEnsayo.Leer(s); ++j) {
+          EXPECT_EQ(a.Roca.EnsayoSigma1.Leer(s, j), b.Roca.EnsayoSigma1.Leer(s, j));
+          EXPECT_EQ(a.Roca.EnsayoSigma3.Leer(s, j), b.Roca.EnsayoSigma3.Leer(s, j));
+        }
+    }
+  }
+  EXPECT_EQ(a.NúmeroCargasUniformes, b.NúmeroCargasUniformes);
+  for (auto c : {&TablaCargaUniforme::xo, &TablaCargaUniforme::yo, &TablaCargaUniforme::xf, &TablaCargaUniforme::yf,
+                 &TablaCargaUniforme::qx, &TablaCargaUniforme::qy})
+    Iguales(a.CargaUniforme.*c, b.CargaUniforme.*c, a.NúmeroCargasUniformes, "CargaUniforme");
+  EXPECT_EQ(a.NúmeroCargasPuntuales, b.NúmeroCargasPuntuales);
+  for (auto c : {&TablaCargaPuntual::Xpuntual, &TablaCargaPuntual::Ypuntual, &TablaCargaPuntual::Px, &TablaCargaPuntual::Py})
+    Iguales(a.CargaPuntual.*c, b.CargaPuntual.*c, a.NúmeroCargasPuntuales, "CargaPuntual");
+  EXPECT_EQ(a.CálculoHecho, b.CálculoHecho);
+  if (a.CálculoHecho) {
+    EXPECT_EQ(a.NúmeroBordes, b.NúmeroBordes);
+    const long n = a.NúmeroBordes - 1;
+    const auto &da = a.TablaDovelas, &db = b.TablaDovelas;
+    Iguales(da.Ancho, db.Ancho, n, "Ancho");
+    Iguales(da.XMedio, db.XMedio, n, "XMedio");
+    Iguales(da.YTalud, db.YTalud, n, "YTalud");
+    Iguales(da.YBase, db.YBase, n, "YBase");
+    Iguales(da.PresiónPoros, db.PresiónPoros, n, "PresiónPoros");
+    Iguales(da.PesoUnitarioMedio, db.PesoUnitarioMedio, n, "PesoUnitarioMedio");
+    Iguales(da.EsfuerzoNormalTotal, db.EsfuerzoNormalTotal, n, "EsfuerzoNormalTotal");
+    Iguales(da.EsfuerzoNormalEfectivo, db.EsfuerzoNormalEfectivo, n, "EsfuerzoNormalEfectivo");
+    Iguales(da.EsfuerzoTangencial, db.EsfuerzoTangencial, n, "EsfuerzoTangencial");
+    if (a.TipoDeMaterial == "S" || pa.UsaParámetrosInstantáneos) {
+      Iguales(da.FricciónBase, db.FricciónBase, n, "FricciónBase");
+      Iguales(da.CohesiónBase, db.CohesiónBase, n, "CohesiónBase");
+    }
+    if (a.TipoDeMaterial == "R") {
+      if (!pa.UsaParámetrosInstantáneos) {
+        Iguales(da.m_Base, db.m_Base, n, "m_Base");
+        Iguales(da.s_Base, db.s_Base, n, "s_Base");
+      }
+      Iguales(da.a_Base, db.a_Base, n, "a_Base");
+      Iguales(da.EsfuerzoPrincipalMayor, db.EsfuerzoPrincipalMayor, n, "EsfuerzoPrincipalMayor");
+      Iguales(da.EsfuerzoPrincipalMenor, db.EsfuerzoPrincipalMenor, n, "EsfuerzoPrincipalMenor");
+    }
+    if (pa.MétodoDeCálculo == 4) Iguales(da.AlturaEmpuje, db.AlturaEmpuje, n, "AlturaEmpuje");
+    EXPECT_EQ(a.NúmeroIteraciones, b.NúmeroIteraciones);
+    const long k = a.NúmeroIteraciones;
+    EXPECT_EQ(a.HistoriaIteraciones.FactorDeSeguridad.Leer(k), b.HistoriaIteraciones.FactorDeSeguridad.Leer(k));
+    if (pa.MétodoDeCálculo == 1) {
+      EXPECT_EQ(a.HistoriaIteraciones.Multiplicador1.Leer(k), b.HistoriaIteraciones.Multiplicador1.Leer(k));
+      EXPECT_EQ(a.HistoriaIteraciones.Multiplicador2.Leer(k), b.HistoriaIteraciones.Multiplicador2.Leer(k));
+    }
+    for (long r = 1; r < k; ++r) EXPECT_EQ(b.HistoriaIteraciones.FactorDeSeguridad.Leer(r), 0.0) << "fila previa " << r;
+  }
+  const auto &ga = a.GrietaTracción, &gb = b.GrietaTracción;
+  EXPECT_EQ(ga.AbscisaPrimerPunto, gb.AbscisaPrimerPunto);
+  EXPECT_EQ(ga.OrdenadaPrimerPunto, gb.OrdenadaPrimerPunto);
+  EXPECT_EQ(ga.AbscisaSegundoPunto, gb.AbscisaSegundoPunto);
+  EXPECT_EQ(ga.OrdenadaSegundoPunto, gb.OrdenadaSegundoPunto);
+  EXPECT_EQ(ga.AbscisaNF, gb.AbscisaNF);
+  EXPECT_EQ(ga.OrdenadaNF, gb.OrdenadaNF);
+  EXPECT_EQ(ga.EmpujeGrieta, gb.EmpujeGrieta);
+  EXPECT_EQ(a.SumaTangenciales, b.SumaTangenciales);
+  EXPECT_EQ(a.SumaNormalesTotales, b.SumaNormalesTotales);
+  EXPECT_EQ(a.SumaNormalesEfectivos, b.SumaNormalesEfectivos);
+  EXPECT_EQ(a.SumaPrincipalesMayores, b.SumaPrincipalesMayores);
+  EXPECT_EQ(a.SumaPrincipalesMenores, b.SumaPrincipalesMenores);
+  const auto &aa = a.Anclajes, &ab = b.Anclajes;
+  EXPECT_EQ(aa.FSConAnclaje, ab.FSConAnclaje);
+  EXPECT_EQ(aa.InclinaciónAnclajes, ab.InclinaciónAnclajes);
+  EXPECT_EQ(aa.DiámetroAnclajes, ab.DiámetroAnclajes);
+  EXPECT_EQ(aa.EsfuerzoRoturaAnclaje, ab.EsfuerzoRoturaAnclaje);
+  EXPECT_EQ(aa.NúmeroGuayas, ab.NúmeroGuayas);
+  EXPECT_EQ(aa.SeparaciónAnclajesActivo, ab.SeparaciónAnclajesActivo);
+  EXPECT_EQ(aa.SeparaciónAnclajesPasivo, ab.SeparaciónAnclajesPasivo);
+}
+
+class ArchivoProyecto : public ::testing::Test {
+ protected:
+  std::string carpeta = pruebas::CarpetaTemporal();
+  std::string ruta = carpeta + "/proyecto.cod";
+  InterfazGuionada ui;
+  Proyecto p_;
+
+  // Saves, rereads into a fresh project and checks that nothing was said on the way.
+  Proyecto IdaYVuelta(Proyecto& p) {
+    EXPECT_TRUE(GuardarProyecto(p, ruta, ui));
+    Proyecto q;
+    EXPECT_TRUE(LeerProyecto(q, ruta, ui));
+    EXPECT_TRUE(ui.Transcripción().empty()) << InterfazGuionada::Línea(ui.Transcripción().front());
+    return q;
+  }
+};
+
+// ----- Round trips
+
+TEST_F(ArchivoProyecto, SueloConResultadosIdaYVuelta) {
+  Proyecto p = ProyectoSuelo(true);
+  Proyecto q = IdaYVuelta(p);
+  CompararProyectos(p, q);
+  EXPECT_TRUE(q.ParámetrosIniciales.VaríaRadio);
+}
+
+TEST_F(ArchivoProyecto, SueloSinResultadosIdaYVuelta) {
+  Proyecto p = ProyectoSuelo(false);
+  p.ParámetrosIniciales.MétodoDeCálculo = 3;
+  // A polyline of three stretches instead of the arc.
+  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {35, 12}, {25, 9}, {15, 10}});
+  p.NúmeroTramosFalla = 3;
+  p.TramoFalla.Redimensionar(3);
+  for (long i = 1; i <= 3; ++i) { p.TramoFalla.PuntoInicial[i] = i; p.TramoFalla.PuntoFinal[i] = i + 1; p.TramoFalla.TipoUnión[i] = "L"; }
+  // A Fellenius run leaves slices and sums but no CálculoHecho: no slice results are written.
+  p.NúmeroBordes = 5;
+  Proyecto q = IdaYVuelta(p);
+  CompararProyectos(p, q);
+  EXPECT_EQ(q.NúmeroBordes, 0);
+  EXPECT_FALSE(q.CálculoHecho);
+}
+
+TEST_F(ArchivoProyecto, RocaConResultadosIdaYVuelta) {
+  for (bool instantáneos : {false, true}) {
+    SCOPED_TRACE(instantáneos ? "con parámetros instantáneos" : "sin parámetros instantáneos");
+    Proyecto p = ProyectoRoca(true, instantáneos);
+    Proyecto q = IdaYVuelta(p);
+    EXPECT_EQ(p.Roca.TipoDeObra, "S");  // forced by the writer
+    CompararProyectos(p, q);
+    EXPECT_EQ(q.ParámetrosIniciales.ParámetrosInstantáneosDisponibles, instantáneos);
+    EXPECT_EQ(q.ParámetrosIniciales.LetraUsaParámetrosInstantáneos, instantáneos ? "S" : "N");
+  }
+}
+
+TEST_F(ArchivoProyecto, RocaSinResultadosIdaYVuelta) {
+  Proyecto p = ProyectoRoca(false, false);
+  p.Roca.EnsayosDados = false;
+  Proyecto q = IdaYVuelta(p);
+  CompararProyectos(p, q);
+  EXPECT_FALSE(q.Roca.EnsayosDados);
+}
+
+TEST_F(ArchivoProyecto, JanbuConCálculoGuardaAlturasDeEmpuje) {
+  Proyecto p = ProyectoSuelo(true);
+  p.ParámetrosIniciales.MétodoDeCálculo = 4;
+  p.TablaDovelas.AlturaEmpuje.Redimensionar(4);
+  for (long i = 1; i <= 3; ++i) p.TablaDovelas.AlturaEmpuje[i] = 1.5 * i;
+  Proyecto q = IdaYVuelta(p);
+  CompararProyectos(p, q);
+}
+
+// ----- The conditional items and the asymmetry
+
+TEST_F(ArchivoProyecto, LetraDeVaríaRadioSoloConUnArcoYBishop) {
+  // The letter follows the row of the stretch: with method 2 it is there, with method 1 the
+  // count of the phreatic line follows at once. Both files read back whole.
+  struct Caso { Entero método; Entero tramos; bool letra; };
+  for (Caso c : {Caso{2, 1, true}, Caso{1, 1, false}, Caso{2, 0, false}}) {
+    SCOPED_TRACE("método " + std::to_string(c.método) + ", tramos " + std::to_string(c.tramos));
+    Proyecto p = ProyectoSuelo(false);
+    p.ParámetrosIniciales.MétodoDeCálculo = c.método;
+    p.NúmeroTramosFalla = c.tramos;
+    Proyecto q = IdaYVuelta(p);
+    CompararProyectos(p, q);
+    const auto líneas = Líneas(LeerBytes(ruta));
+    // Head 8 lines; body: material, letter, method, ten reals, surface (1 + 4), failure (1 + 2).
+    const std::size_t tramos = 8 + 3 + 10 + 5 + 3;
+    ASSERT_GT(líneas.size(), tramos + 2);
+    EXPECT_EQ(líneas[tramos], std::to_string(c.tramos));
+    const std::size_t siguiente = tramos + 1 + static_cast<std::size_t>(c.tramos);
+    if (c.tramos == 1) {
+      EXPECT_EQ(líneas[tramos + 1], "1,2,\"C\"");
+    }
+    EXPECT_EQ(líneas[siguiente], c.letra ? "\"S\"" : "3");
+  }
+}
+
+TEST_F(ArchivoProyecto, JanbuSinCálculoConDovelasNoSeReleeBien) {
+  // Method 4 writes the heights for every slice in memory, the reader takes them only after a
+  // calculation: the values that follow shift. Here two heights are read as the first two sums.
+  Proyecto p = ProyectoSuelo(false);
+  p.ParámetrosIniciales.MétodoDeCálculo = 4;
+  p.NúmeroBordes = 3;
+  p.TablaDovelas.AlturaEmpuje.Redimensionar(3);
+  p.TablaDovelas.AlturaEmpuje[1] = 4.25;
+  p.TablaDovelas.AlturaEmpuje[2] = 3.5;
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  Proyecto q;
+  LeerProyecto(q, ruta, ui);
+  EXPECT_EQ(q.SumaTangenciales, 4.25);
+  EXPECT_EQ(q.SumaNormalesTotales, 3.5);
+  EXPECT_EQ(q.SumaPrincipalesMayores, p.SumaTangenciales);
+  EXPECT_EQ(q.Anclajes.SeparaciónAnclajesPasivo, p.Anclajes.NúmeroGuayas);
+  // Nothing checks the file as a whole: the two values left at its end go unnoticed.
+  EXPECT_TRUE(ui.Transcripción().empty());
+
+  // With no slices in memory the two walks agree.
+  p.NúmeroBordes = 0;
+  ui.Olvidar();
+  Proyecto r = IdaYVuelta(p);
+  CompararProyectos(p, r);
+}
+
+// ----- Texts
+
+TEST_F(ArchivoProyecto, DescripciónComillasYAcentos) {
+  Proyecto p = ProyectoSuelo(false);
+  p.Ventana.TextoProyecto = "Primera línea\r\nsegunda \"corte\"\nfin";
+  p.InformaciónProyecto.Empresa = "Compañía Técnica Ñandú";
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  const std::string bytes = LeerBytes(ruta);
+  // Windows-1252 on disk: one byte a letter, no UTF-8 pairs.
+  EXPECT_NE(bytes.find("\"Compa\xF1\xED""a T\xE9""cnica \xD1""and\xFA\""), std::string::npos);
+  EXPECT_EQ(bytes.find("\xC3"), std::string::npos);
+  EXPECT_EQ(Líneas(bytes)[0], "\"Primera l\xEDnea  segunda 'corte' fin\"");
+  Proyecto q;
+  ASSERT_TRUE(LeerProyecto(q, ruta, ui));
+  EXPECT_EQ(q.Ventana.TextoProyecto, "Primera línea  segunda 'corte' fin");
+  EXPECT_EQ(q.InformaciónProyecto.Empresa, "Compañía Técnica Ñandú");
+}
+
+TEST(LimpiarSaltos, CadaCrYCadaLfUnBlanco) {
+  EXPECT_EQ(LimpiarSaltos("a\r\nb\nc\rd"), "a  b c d");
+  EXPECT_EQ(LimpiarSaltos(""), "");
+}
+
+TEST(MayorDeLista, SoloLasFilasContadas) {
+  Tabla<Entero> t;
+  t.Redimensionar(4);
+  t[1] = 3; t[2] = 7; t[3] = 2; t[4] = 9;
+  EXPECT_EQ(MayorDeLista(t, 3), 7);
+  EXPECT_EQ(MayorDeLista(t, 0), 0);
+  EXPECT_EQ(MayorDeLista(t, 6), 9);  // rows beyond the table read 0
+}
+
+// ----- Numbers
+
+TEST_F(ArchivoProyecto, QuinceCifrasSignificativas) {
+  Proyecto p = ProyectoSuelo(false);
+  p.ParámetrosIniciales.FSInicial = 1.0 / 3.0;
+  p.CoordenadasTalud.X[2] = 123456.789012345678;
+  p.ParámetrosIniciales.Multiplicador1 = 6.02214076e23;
+  p.ParámetrosIniciales.Multiplicador2 = -1.0e-12 / 7.0;
+  CargarPanelCoordenadas(p, 1, 1);
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  const auto líneas = Líneas(LeerBytes(ruta));
+  EXPECT_EQ(líneas[8 + 3 + 2], "0.333333333333333");
+  EXPECT_EQ(líneas[8 + 3 + 10 + 2], "123456.789012346,20");
+  Proyecto q;
+  ASSERT_TRUE(LeerProyecto(q, ruta, ui));
+  auto cerca = [](double a, double b) { return std::abs(a - b) <= 5e-15 * std::abs(b); };
+  EXPECT_TRUE(cerca(q.ParámetrosIniciales.FSInicial, 1.0 / 3.0));
+  EXPECT_TRUE(cerca(q.CoordenadasTalud.X[2], 123456.789012345678));
+  EXPECT_TRUE(cerca(q.ParámetrosIniciales.Multiplicador1, 6.02214076e23));
+  EXPECT_TRUE(cerca(q.ParámetrosIniciales.Multiplicador2, -1.0e-12 / 7.0));
+}
+
+// A locale whose decimal sign is a comma, for the streams of the program.
+struct ComaDecimal : std::numpunct<char> {
+  char do_decimal_point() const override { return ','; }
+  char do_thousands_sep() const override { return '.'; }
+  std::string do_grouping() const override { return "\3"; }
+};
+
+TEST_F(ArchivoProyecto, PuntoDecimalBajoUnaConfiguraciónEspañola) {
+  const std::locale antes = std::locale::global(std::locale(std::locale::classic(), new ComaDecimal));
+  const std::string cAntes = std::setlocale(LC_ALL, nullptr);
+  const bool español = std::setlocale(LC_ALL, "es_ES.UTF-8") != nullptr;
+  Proyecto p = ProyectoSuelo(true);
+  const bool guardado = GuardarProyecto(p, ruta, ui);
+  Proyecto q;
+  const bool leído = LeerProyecto(q, ruta, ui);
+  std::setlocale(LC_ALL, cAntes.c_str());
+  std::locale::global(antes);
+  ASSERT_TRUE(guardado);
+  ASSERT_TRUE(leído);
+  const auto líneas = Líneas(LeerBytes(ruta));
+  EXPECT_EQ(líneas[8 + 3 + 2], "1.35");
+  EXPECT_EQ(líneas[8 + 3 + 10 + 3], "20,10");
+  CompararProyectos(p, q);
+  if (!español) GTEST_SKIP() << "la configuración es_ES.UTF-8 no está instalada; se probó solo la de los flujos";
+}
+
+// ----- Files written by hand or by older versions
+
+TEST_F(ArchivoProyecto, ArchivoAntiguoConOtrasFormasDeNúmero) {
+  ASSERT_TRUE(LeerProyecto(p_, pruebas::RutaDatos("antiguo_suelo.cod"), ui)) << InterfazGuionada::Línea(ui.Transcripción().front());
+  EXPECT_TRUE(ui.Transcripción().empty());
+  const auto& pi = p_.ParámetrosIniciales;
+  EXPECT_EQ(p_.Ventana.TextoProyecto, "Terraplén antiguo, archivo escrito a mano");
+  EXPECT_EQ(p_.InformaciónProyecto.IngResponsable, "Ing. Peña");  // Windows-1252 byte 0xF1
+  EXPECT_EQ(pi.MétodoDeCálculo, 3);
+  EXPECT_DOUBLE_EQ(pi.Multiplicador1, 0.5);
+  EXPECT_DOUBLE_EQ(pi.Multiplicador2, -0.25);
+  EXPECT_DOUBLE_EQ(pi.FSInicial, 1.5);
+  EXPECT_DOUBLE_EQ(pi.EsfuerzoInicialCresta, 1e-5);
+  EXPECT_DOUBLE_EQ(pi.Radio, 2.5e20);
+  EXPECT_DOUBLE_EQ(pi.CoeficienteSísmicoHorizontal, 0.1);
+  EXPECT_DOUBLE_EQ(pi.NúmeroDovelas, 10);
+  ASSERT_EQ(p_.NúmeroPuntosTalud, 3);
+  EXPECT_DOUBLE_EQ(p_.CoordenadasTalud.X[2], 20);
+  EXPECT_DOUBLE_EQ(p_.CoordenadasTalud.Y[3], 5.5);
+  ASSERT_EQ(p_.NúmeroTramosFalla, 1);
+  EXPECT_EQ(p_.TramoFalla.TipoUnión[1], "L");
+  EXPECT_EQ(p_.NúmeroEstratos, 1);
+  EXPECT_DOUBLE_EQ(p_.Estrato.Cohesión[1], 2);
+  EXPECT_DOUBLE_EQ(p_.Estrato.Fricción[1], 30);
+  EXPECT_EQ(p_.Estrato.TipoEstrato[1], 1);
+  EXPECT_DOUBLE_EQ(p_.XEstrato(1, 2), 0);
+  EXPECT_DOUBLE_EQ(p_.YEstrato(1, 2), -.5);
+  EXPECT_EQ(p_.NúmeroCargasPuntuales, 1);
+  EXPECT_TRUE(p_.CargasPuntualesDadas);
+  EXPECT_FALSE(p_.CargasUniformesDadas);
+  EXPECT_DOUBLE_EQ(p_.CargaPuntual.Py[1], 3);
+  EXPECT_DOUBLE_EQ(p_.GrietaTracción.EmpujeGrieta, .125);
+  EXPECT_DOUBLE_EQ(p_.SumaNormalesEfectivos, -1.5e-3);
+  EXPECT_DOUBLE_EQ(p_.Anclajes.SeparaciónAnclajesPasivo, 2);
+}
+
+// ----- Read-time derivations
+
+TEST_F(ArchivoProyecto, LoQueLaLecturaDeduce) {
+  Proyecto p = ProyectoSuelo(false);
+  p.ParámetrosIniciales.ReferenciaMomentoX = 30;
+  p.ParámetrosIniciales.ReferenciaMomentoY = 32.5;
+  p.Sísmico.CálculoSísmicoHecho = true;
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  Proyecto q;
+  q.Ventana.TipoPanel = 3;
+  ASSERT_TRUE(LeerProyecto(q, ruta, ui));
+  // One arc: the stored reference is kept and is also the centre.
+  EXPECT_EQ(q.ParámetrosIniciales.CentroX, 30);
+  EXPECT_EQ(q.ParámetrosIniciales.CentroY, 32.5);
+  EXPECT_EQ(q.ParámetrosIniciales.ReferenciaMomentoX, 30);
+  EXPECT_TRUE(q.Sísmico.SismoCalculado);
+  EXPECT_TRUE(q.ParámetrosInicialesDados);
+  EXPECT_TRUE(q.GeometríaFallaDefinida);
+  EXPECT_TRUE(q.EstratosCaracterizados);
+  EXPECT_TRUE(q.CargasUniformesDadas);
+  EXPECT_TRUE(q.CargasPuntualesDadas);
+  EXPECT_TRUE(q.InformaciónDada);
+  EXPECT_TRUE(q.Ventana.EntradaCoordenadasAbierta);
+  EXPECT_EQ(q.Ventana.ListaEstrato, (std::vector<std::string>{"Seleccione el estrato", "1", "2"}));
+  EXPECT_EQ(q.Ventana.TipoPanel, 1);
+  ASSERT_EQ(q.Ventana.ListaCoordenadas.size(), 4u);
+  EXPECT_EQ(q.Ventana.ListaCoordenadas[2].X, 20);
+  EXPECT_EQ(q.Ventana.EtiquetaCoordenadas, "Coordenadas Talud-Presa-Túnel");
+
+  // Not one arc: the centre keeps the values, the references are cleared.
+  p.TramoFalla.TipoUnión[1] = "L";
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  ASSERT_TRUE(LeerProyecto(q, ruta, ui));
+  EXPECT_EQ(q.ParámetrosIniciales.CentroX, 30);
+  EXPECT_EQ(q.ParámetrosIniciales.ReferenciaMomentoX, 0);
+  EXPECT_EQ(q.ParámetrosIniciales.ReferenciaMomentoY, 0);
+}
+
+// ----- Tidy-ups of the writer that stay in memory
+
+TEST_F(ArchivoProyecto, ElEscritorOrdenaElEstadoAntesDelCuerpo) {
+  Proyecto p = ProyectoSuelo(true);
+  auto& pi = p.ParámetrosIniciales;
+  pi.CentroX = 11; pi.CentroY = 12; pi.ReferenciaMomentoX = 21; pi.ReferenciaMomentoY = 22;
+  XY(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {30, 11}, {15, 10}});
+  p.NúmeroTramosFalla = 2;
+  p.TramoFalla.Redimensionar(2);
+  p.TramoFalla.PuntoInicial[1] = 1; p.TramoFalla.PuntoFinal[1] = 2; p.TramoFalla.TipoUnión[1] = "L";
+  p.TramoFalla.PuntoInicial[2] = 2; p.TramoFalla.PuntoFinal[2] = 3; p.TramoFalla.TipoUnión[2] = "C";
+  p.Estrato.m_macizo[1] = 3;
+  p.TablaDovelas.m_Base.Redimensionar(3);
+  p.TablaDovelas.EsfuerzoPrincipalMayor.Redimensionar(3);
+  p.TablaDovelas.AlturaEmpuje.Redimensionar(4);
+  p.Roca.PuntosEnsayo.Redimensionar(2);
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  // Several stretches, the first straight, no instantaneous parameters: no arc of its own; and
+  // Bishop with no radius takes its centre from the reference point.
+  EXPECT_EQ(pi.Radio, 0);
+  EXPECT_EQ(pi.CentroX, 21);
+  EXPECT_EQ(pi.CentroY, 22);
+  // Calculated soil: the rock columns and the slice columns of rock go.
+  EXPECT_EQ(p.Estrato.m_macizo.Tamaño(), 0);
+  EXPECT_EQ(p.TablaDovelas.m_Base.Tamaño(), 0);
+  EXPECT_EQ(p.TablaDovelas.EsfuerzoPrincipalMayor.Tamaño(), 0);
+  EXPECT_EQ(p.Roca.PuntosEnsayo.Tamaño(), 0);
+  EXPECT_EQ(p.TablaDovelas.AlturaEmpuje.Tamaño(), 0);  // not Janbu
+  EXPECT_EQ(p.Estrato.ParámetroPresión[1], 0.3);
+
+  // Calculated rock without instantaneous parameters: soil columns and the base strength go.
+  Proyecto r = ProyectoRoca(true, false);
+  r.Estrato.ParámetroPresión.Redimensionar(2);
+  ASSERT_TRUE(GuardarProyecto(r, ruta, ui));
+  EXPECT_EQ(r.Estrato.ParámetroPresión.Tamaño(), 0);
+  EXPECT_EQ(r.TablaDovelas.FricciónBase.Tamaño(), 0);
+  EXPECT_EQ(r.TablaDovelas.CohesiónBase.Tamaño(), 0);
+  EXPECT_EQ(r.TablaDovelas.m_Base.Tamaño(), 2);
+  EXPECT_EQ(r.Roca.TipoDeObra, "S");
+}
+
+TEST_F(ArchivoProyecto, ElPanelSeGuardaPrimero) {
+  Proyecto p = ProyectoSuelo(false);
+  CargarPanelCoordenadas(p, 3, 1);
+  p.Ventana.ListaCoordenadas.push_back({-10, 9});  // a point added to the phreatic line
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  EXPECT_EQ(p.NúmeroPuntosFreático, 4);
+  Proyecto q;
+  ASSERT_TRUE(LeerProyecto(q, ruta, ui));
+  ASSERT_EQ(q.NúmeroPuntosFreático, 4);
+  EXPECT_EQ(q.CoordenadasFreático.X[4], -10);
+}
+
+// ----- Refusals and failures
+
+TEST_F(ArchivoProyecto, SinMaterialNoSeEscribeNada) {
+  Proyecto p = ProyectoSuelo(false);
+  p.TipoDeMaterial.clear();
+  EXPECT_FALSE(GuardarProyecto(p, ruta, ui));
+  EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Seleccione la opción parámetros iniciales e indique si es suelo <S> ó <R>"});
+  EXPECT_FALSE(fs::exists(ruta));
+}
+
+TEST_F(ArchivoProyecto, EscrituraFallidaLoDiceYNoTocaElArchivoAnterior) {
+  Proyecto p = ProyectoSuelo(false);
+  EXPECT_FALSE(GuardarProyecto(p, carpeta + "/no/existe.cod", ui));
+  ASSERT_EQ(ui.Transcripción().size(), 1u);
+  EXPECT_EQ(ui.Transcripción()[0].título, "Guardar proyecto");
+  EXPECT_NE(ui.Transcripción()[0].texto.find("No se pudo guardar el proyecto"), std::string::npos);
+  // A folder in the place of the file: the old content (none) stays and nothing is left over.
+  fs::create_directories(ruta);
+  EXPECT_FALSE(GuardarProyecto(p, ruta, ui));
+  EXPECT_TRUE(fs::is_directory(ruta));
+  EXPECT_FALSE(fs::exists(ruta + ".tmp~"));
+}
+
+TEST_F(ArchivoProyecto, ArchivoTruncadoGuardaLoLeído) {
+  Proyecto p = ProyectoSuelo(true);
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  const std::string bytes = LeerBytes(ruta);
+  // Cut inside the first stratum, after two of its three points: head, parameters, surface,
+  // failure surface, its stretch and letter, phreatic line, strata line, count and 8 fields.
+  const auto líneas = Líneas(bytes);
+  std::string corto;
+  for (std::size_t i = 0; i < 8 + 3 + 10 + 5 + 3 + 2 + 1 + 4 + 1 + 1 + 8 + 2; ++i) corto += líneas[i] + "\r\n";
+  EscribirBytes(ruta, corto);
+  Proyecto q;
+  EXPECT_FALSE(LeerProyecto(q, ruta, ui));
+  EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Error leyendo archivo"});
+  // What was read stays, after the reset; the end of the read did not happen.
+  EXPECT_EQ(q.NúmeroPuntosTalud, 4);
+  EXPECT_EQ(q.NúmeroEstratos, 2);
+  EXPECT_EQ(q.Estrato.Cohesión[1], 1.5);
+  EXPECT_EQ(q.XEstrato(1, 2), 35);
+  EXPECT_EQ(q.InformaciónProyecto.Empresa, "Geotecnia Andina");
+  EXPECT_TRUE(q.ParámetrosInicialesDados);
+  EXPECT_FALSE(q.EstratosCaracterizados);
+  EXPECT_FALSE(q.InformaciónDada);
+  EXPECT_EQ(q.Ventana.TextoProyecto, "");
+}
+
+TEST_F(ArchivoProyecto, ArchivosQueNoSePuedenLeer) {
+  struct Caso { const char* nombre; std::string contenido; };
+  const Caso casos[] = {
+      {"vacío", ""},
+      {"número mal formado", "\"d\",\"\",\"\",\"\",\"\",\"\",\"T\",2\r\n\"S\"\r\n\"N\"\r\n3\r\n1,5\r\n"},
+      {"cuenta negativa", "\"d\",\"\",\"\",\"\",\"\",\"\",\"T\",2,\"S\",\"N\",3,0,0,1,0,10,0,0,0,0,10,-2\r\n"},
+      {"estrato con más puntos que el mayor", "\"d\",\"\",\"\",\"\",\"\",\"\",\"T\",2,\"S\",\"N\",3,0,0,1,0,10,0,0,0,0,10,0,0,0,0,1,1,1,2\r\n"},
+      {"texto sin cerrar", "\"d,\"\",\"\"\r\n"},
+  };
+  for (const Caso& c : casos) {
+    SCOPED_TRACE(c.nombre);
+    EscribirBytes(ruta, c.contenido);
+    Proyecto q;
+    ui.Olvidar();
+    EXPECT_FALSE(LeerProyecto(q, ruta, ui));
+    EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Error leyendo archivo"});
+  }
+  ui.Olvidar();
+  Proyecto q;
+  EXPECT_FALSE(LeerProyecto(q, carpeta + "/no_existe.cod", ui));
+  EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Error leyendo archivo"});
+}
+
+TEST_F(ArchivoProyecto, ArchivoDeElementosFinitosSeRechaza) {
+  EscribirBytes(ruta, "\"Presa\",\"\",\"\",\"\",\"\",\"\",\"F\",2\r\n\"S\"\r\n1,4,1\r\n");
+  Proyecto q;
+  EXPECT_FALSE(LeerProyecto(q, ruta, ui));
+  EXPECT_EQ(ui.Textos(), std::vector<std::string>{
+                             "El archivo contiene un proyecto de elementos finitos. Esta versión de Lomaterra "
+                             "todavía no lee proyectos de elementos finitos: solo se leyó la información general "
+                             "del proyecto."});
+  EXPECT_EQ(q.TipoDeAnálisis, "F");
+  EXPECT_FALSE(q.InformaciónDada);
+  EXPECT_EQ(q.NúmeroEstratos, 0);
+
+  ui.Olvidar();
+  Proyecto p = ProyectoSuelo(false);
+  p.TipoDeAnálisis = "F";
+  EXPECT_FALSE(GuardarProyecto(p, ruta, ui));
+  ASSERT_EQ(ui.Textos().size(), 1u);
+}
+
+}  // namespace
+}  // namespace lomaterra
