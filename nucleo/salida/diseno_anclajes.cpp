@@ -21,9 +21,10 @@ CálculoAnclajes CalcularAnclajes(const Proyecto& p, const DatosAnclajes& a) {
   }
   const long n = NúmeroDeDovelas(p);
   const auto& d = p.TablaDovelas;
+  const BordesDeDovelas b = Bordes(p);
   double D = 0, largo = 0, sumaTan = 0;
   for (long i = 1; i <= n; ++i) {
-    const double l = LongitudBase(p, i);
+    const double l = LongitudBase(b, i);
     D += d.EsfuerzoTangencial.Leer(i) * l;
     largo += l;
     sumaTan += l * std::tan(d.FricciónBase.Leer(i) * kGrado);
@@ -33,8 +34,8 @@ CálculoAnclajes CalcularAnclajes(const Proyecto& p, const DatosAnclajes& a) {
   r.FuerzaMovilizada = D;
   r.ResistenciaDisponible = F * D;
   r.TanFricciónMedia = largo > 0 ? sumaTan / largo : 0;
-  const double dx = d.BordeX.Leer(1) - d.BordeX.Leer(n + 1),
-               dy = d.BordeYFalla.Leer(1) - d.BordeYFalla.Leer(n + 1);
+  const auto u = static_cast<std::size_t>(n + 1);
+  const double dx = b.x[1] - b.x[u], dy = b.yFalla[1] - b.yFalla[u];
   const double psi = std::atan2(dy, dx);
   r.InclinaciónFalla = psi / kGrado;
   auto paso = [&](const std::string& t, double v, const char* formato = "#0.000") {

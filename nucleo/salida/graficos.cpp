@@ -157,7 +157,10 @@ Figura FiguraSecciónConEsfuerzos(const Proyecto& p) {
   NotasDelCálculo(f, p);
   const long n = NúmeroDeDovelas(p);
   const auto& d = p.TablaDovelas;
-  if (n < 1 || d.BordeX.Tamaño() <= n || d.BordeYFalla.Tamaño() <= n) return f;
+  if (!HayResultados(p)) return f;
+  const BordesDeDovelas b = Bordes(p);
+  auto bx = [&](long i) { return b.x[static_cast<std::size_t>(i)]; };
+  auto bf = [&](long i) { return b.yFalla[static_cast<std::size_t>(i)]; };
   double mayor = 0;
   for (long i = 1; i <= n; ++i)
     mayor = std::max({mayor, std::abs(d.EsfuerzoNormalEfectivo.Leer(i)),
@@ -179,16 +182,16 @@ Figura FiguraSecciónConEsfuerzos(const Proyecto& p) {
     contorno.relleno = true;
     contorno.colorRelleno = relleno;
     std::vector<PuntoFigura> puntas;
-    for (long i = 1; i <= n + 1; ++i) contorno.puntos.push_back({d.BordeX[i], d.BordeYFalla[i]});
+    for (long i = 1; i <= n + 1; ++i) contorno.puntos.push_back({bx(i), bf(i)});
     for (long i = n; i >= 1; --i) {
-      const double a = InclinaciónBase(p, i);
+      const double a = InclinaciónBase(b, i);
       // Outward normal of the base: away from the sliding mass, into the ground below it.
       const double largo = lado * escala * columna.Leer(i);
       const double nx = std::sin(a) * largo, ny = -std::cos(a) * largo;
-      contorno.puntos.push_back({d.BordeX[i + 1] + nx, d.BordeYFalla[i + 1] + ny});
-      contorno.puntos.push_back({d.BordeX[i] + nx, d.BordeYFalla[i] + ny});
-      const double xm = 0.5 * (d.BordeX[i] + d.BordeX[i + 1]),
-                   ym = 0.5 * (d.BordeYFalla[i] + d.BordeYFalla[i + 1]);
+      contorno.puntos.push_back({bx(i + 1) + nx, bf(i + 1) + ny});
+      contorno.puntos.push_back({bx(i) + nx, bf(i) + ny});
+      const double xm = 0.5 * (bx(i) + bx(i + 1)),
+                   ym = 0.5 * (bf(i) + bf(i + 1));
       if (n <= 40)
         f.rótulos.push_back({{xm + 1.15 * nx, ym + 1.15 * ny},
                              Formato(columna.Leer(i), "#0.00"),

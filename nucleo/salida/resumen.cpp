@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <functional>
+#include <memory>
 
 #include "proyecto/compat.h"
 #include "proyecto/proyecto.h"
@@ -23,7 +24,7 @@ bool HayResultados(const Proyecto& p) {
   const double fs = FactorDeSeguridadFinal(p);
   if (!std::isfinite(fs) || fs <= 0) return false;
   const auto& d = p.TablaDovelas;
-  return d.BordeX.Tamaño() > n && d.BordeYFalla.Tamaño() > n && d.XMedio.Tamaño() >= n &&
+  return d.XMedio.Tamaño() >= n && d.Ancho.Tamaño() >= n && d.YBase.Tamaño() >= n &&
          d.EsfuerzoNormalTotal.Tamaño() >= n && d.EsfuerzoNormalEfectivo.Tamaño() >= n &&
          d.EsfuerzoTangencial.Tamaño() >= n;
 }
@@ -58,16 +59,85 @@ bool HayEsfuerzosPrincipales(const Proyecto& p) {
          ColumnaLlena(p.TablaDovelas.EsfuerzoPrincipalMenor, n);
 }
 
-double LongitudBase(const Proyecto& p, long i) {
-  const auto& d = p.TablaDovelas;
-  return std::hypot(d.BordeX.Leer(i) - d.BordeX.Leer(i + 1),
-                    d.BordeYFalla.Leer(i) - d.BordeYFalla.Leer(i + 1));
+namespace {
+
+// Ordinate of a line of descending X at x, straight between its points, prolonged at its ends.
+double OrdenadaEnLínea(const TablaXY& t, long m, double x, bool& hallada) {
+  hallada = false;
+  if (m < 2) return 0;
+  for (long k = 1; k < m; ++k) {
+    const double xa = t.X.Leer(k), xb = t.X.Leer(k + 1);
+    if ((xa - x) * (xb - x) <= 0 && xa != xb) {
+      hallada = true;
+      return t.Y.Leer(k) + (x - xa) * (t.Y.Leer(k + 1) - t.Y.Leer(k)) / (xb - xa);
+    }
+  }
+  return 0;
 }
 
-double InclinaciónBase(const Proyecto& p, long i) {
+double Recta(double x0, double y0, double x1, double y1, double x) {
+  return x1 != x0 ? y0 + (x - x0) * (y1 - y0) / (x1 - x0) : 0.5 * (y0 + y1);
+}
+
+}  // namespace
+
+BordesDeDovelas Bordes(const Proyecto& p) {
+  BordesDeDovelas b;
+  const long n = NúmeroDeDovelas(p);
+  b.n = n;
+  b.x.assign(static_cast<std::size_t>(n + 2), 0.0);
+  b.yFalla = b.x;
+  b.yTalud = b.x;
+  if (n < 1) return b;
   const auto& d = p.TablaDovelas;
-  return std::atan2(d.BordeYFalla.Leer(i) - d.BordeYFalla.Leer(i + 1),
-                    d.BordeX.Leer(i) - d.BordeX.Leer(i + 1));
+  auto en = [](std::vector<double>& v, long i) -> double& { return v[static_cast<std::size_t>(i)]; };
+  b.guardados = d.BordeX.Tamaño() > n && d.BordeYFalla.Tamaño() > n && d.BordeYTalud.Tamaño() > n;
+  if (b.guardados) {
+    for (long i = 1; i <= n + 1; ++i) {
+      en(b.x, i) = d.BordeX[i];
+      en(b.yFalla, i) = d.BordeYFalla[i];
+      en(b.yTalud, i) = d.BordeYTalud[i];
+    }
+    return b;
+  }
+  const auto xm = [&](long i) { return d.XMedio.Leer(i); };
+  const auto yb = [&](long i) { return d.YBase.Leer(i); };
+  const auto yt = [&](long i) { return d.YTalud.Leer(i); };
+  en(b.x, 1) = xm(1) + 0.5 * d.Ancho.Leer(1);
+  for (long i = 1; i <= n; ++i) en(b.x, i + 1) = xm(i) - 0.5 * d.Ancho.Leer(i);
+  for (long i = 2; i <= n; ++i) {
+    en(b.yFalla, i) = Recta(xm(i - 1), yb(i - 1), xm(i), yb(i), en(b.x, i));
+    en(b.yTalud, i) = Recta(xm(i - 1), yt(i - 1), xm(i), yt(i), en(b.x, i));
+  }
+  // The ends: prolonged from the two nearest middles, unless the failure surface ends there.
+  const long u = n + 1;
+  en(b.yFalla, 1) = n > 1 ? Recta(xm(1), yb(1), xm(2), yb(2), en(b.x, 1)) : yb(1);
+  en(b.yFalla, u) = n > 1 ? Recta(xm(n - 1), yb(n - 1), xm(n), yb(n), en(b.x, u)) : yb(n);
+  en(b.yTalud, 1) = n > 1 ? Recta(xm(1), yt(1), xm(2), yt(2), en(b.x, 1)) : yt(1);
+  en(b.yTalud, u) = n > 1 ? Recta(xm(n - 1), yt(n - 1), xm(n), yt(n), en(b.x, u)) : yt(n);
+  const long m = p.NúmeroPuntosFalla;
+  if (m >= 2) {
+    if (std::abs(p.CoordenadasFalla.X.Leer(1) - en(b.x, 1)) < 0.05) en(b.yFalla, 1) = p.CoordenadasFalla.Y.Leer(1);
+    if (std::abs(p.CoordenadasFalla.X.Leer(m) - en(b.x, u)) < 0.05) en(b.yFalla, u) = p.CoordenadasFalla.Y.Leer(m);
+  }
+  for (long i = 1; i <= u; ++i) {
+    bool hallada = false;
+    const double y = OrdenadaEnLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, en(b.x, i), hallada);
+    if (hallada) en(b.yTalud, i) = y;
+  }
+  return b;
+}
+
+double LongitudBase(const BordesDeDovelas& b, long i) {
+  if (i < 1 || i > b.n) return 0;
+  const auto k = static_cast<std::size_t>(i);
+  return std::hypot(b.x[k] - b.x[k + 1], b.yFalla[k] - b.yFalla[k + 1]);
+}
+
+double InclinaciónBase(const BordesDeDovelas& b, long i) {
+  if (i < 1 || i > b.n) return 0;
+  const auto k = static_cast<std::size_t>(i);
+  return std::atan2(b.yFalla[k] - b.yFalla[k + 1], b.x[k] - b.x[k + 1]);
 }
 
 namespace {
@@ -90,6 +160,7 @@ std::vector<ColumnaDovela> ColumnasDeDovelas(const Proyecto& p) {
   const long n = NúmeroDeDovelas(p);
   const auto& d = p.TablaDovelas;
   const bool roca = p.TipoDeMaterial == "R";
+  const auto b = std::make_shared<const BordesDeDovelas>(Bordes(p));
   std::vector<ColumnaDovela> r;
   auto si = [&](const Tabla<double>& t, ColumnaDovela c) {
     if (t.Tamaño() >= n) r.push_back(std::move(c));
@@ -101,10 +172,10 @@ std::vector<ColumnaDovela> ColumnasDeDovelas(const Proyecto& p) {
   si(d.YFreático, De("Y freático (m)", &D::YFreático));
   r.push_back(
       {"Ángulo base (°)",
-       [](const Proyecto& q, long i) { return InclinaciónBase(q, i) * 45.0 / std::atan(1.0); },
+       [b](const Proyecto&, long i) { return InclinaciónBase(*b, i) * 45.0 / std::atan(1.0); },
        "#0.00"});
   r.push_back(
-      {"Longitud base (m)", [](const Proyecto& q, long i) { return LongitudBase(q, i); }, "#0.00"});
+      {"Longitud base (m)", [b](const Proyecto&, long i) { return LongitudBase(*b, i); }, "#0.00"});
   si(d.PesoUnitarioMedio, De("Peso unitario medio (ton/m3)", &D::PesoUnitarioMedio, "#0.000"));
   si(d.PresiónPoros, De("Presión de poros u (ton/m2)", &D::PresiónPoros));
   if (!roca || p.ParámetrosIniciales.UsaParámetrosInstantáneos) {

@@ -43,10 +43,21 @@ TablaDeTexto TablaSumas(const Proyecto& p);
 // Tab-separated text, one line a row, captions first; numbers with a point as decimal sign.
 std::string TextoTabulado(const TablaDeTexto& t);
 
-// The length of the base of slice i, from its two edges on the failure surface.
-double LongitudBase(const Proyecto& p, long i);
-// The inclination of the base of slice i in radians, from its two edges (positive when the base
-// rises towards the crest).
-double InclinaciónBase(const Proyecto& p, long i);
+// The edges of the slices, numbered 1 to n + 1 (index 0 unused): as the slice stages left them,
+// or rebuilt from the middles and widths when the project comes from a file, which keeps those but
+// not the edges. Rebuilt, the end edges on the failure surface are its end points, the inner ones
+// the straight line between the neighbouring base middles, the surface read from its table.
+struct BordesDeDovelas {
+  long n = 0;
+  bool guardados = false;  // from the edge columns themselves
+  std::vector<double> x, yFalla, yTalud;
+};
+BordesDeDovelas Bordes(const Proyecto& p);
+
+// The length of the base of slice i between its two edges.
+double LongitudBase(const BordesDeDovelas& b, long i);
+// The inclination of the base of slice i in radians (positive when the base rises towards the
+// crest, towards greater X).
+double InclinaciónBase(const BordesDeDovelas& b, long i);
 
 }  // namespace lomaterra

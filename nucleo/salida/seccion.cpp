@@ -243,8 +243,12 @@ Figura FiguraSección(const Proyecto& p) {
   // Slices: their edges from the failure surface up to the surface.
   const long n = NúmeroDeDovelas(p);
   const auto& d = p.TablaDovelas;
-  const bool hayDovelas =
-      n >= 1 && d.BordeX.Tamaño() > n && d.BordeYFalla.Tamaño() > n && d.BordeYTalud.Tamaño() > n;
+  const BordesDeDovelas b = Bordes(p);
+  const bool hayDovelas = n >= 1 && (b.guardados || (d.XMedio.Tamaño() >= n && d.Ancho.Tamaño() >= n &&
+                                                     d.YBase.Tamaño() >= n && d.YTalud.Tamaño() >= n));
+  auto bx = [&](long i) { return b.x[static_cast<std::size_t>(i)]; };
+  auto bf = [&](long i) { return b.yFalla[static_cast<std::size_t>(i)]; };
+  auto bt = [&](long i) { return b.yTalud[static_cast<std::size_t>(i)]; };
   if (hayDovelas) {
     for (long i = 1; i <= n + 1; ++i) {
       Trazo t;
@@ -252,14 +256,14 @@ Figura FiguraSección(const Proyecto& p) {
       t.grosor = 0.8;
       t.nombre = "borde " + std::to_string(i);
       if (i == 1) t.leyenda = "Dovelas";
-      t.puntos = {{d.BordeX[i], d.BordeYFalla[i]}, {d.BordeX[i], d.BordeYTalud[i]}};
+      t.puntos = {{bx(i), bf(i)}, {bx(i), bt(i)}};
       f.trazos.push_back(std::move(t));
     }
     if (n <= 60)
       for (long i = 1; i <= n; ++i) {
-        const double x = 0.5 * (d.BordeX[i] + d.BordeX[i + 1]);
-        const double y = 0.25 * (d.BordeYFalla[i] + d.BordeYFalla[i + 1] + d.BordeYTalud[i] +
-                                 d.BordeYTalud[i + 1]);
+        const double x = 0.5 * (bx(i) + bx(i + 1));
+        const double y = 0.25 * (bf(i) + bf(i + 1) + bt(i) +
+                                 bt(i + 1));
         f.rótulos.push_back({{x, y}, std::to_string(i), colores::Dovela, 7.0, "centro"});
       }
   }
@@ -278,8 +282,8 @@ Figura FiguraSección(const Proyecto& p) {
     f.trazos.push_back(std::move(t));
   }
 
-  // The failure surface: through the slice edges when the slices exist, else through its points,
-  // along the arc when it is the circular surface.
+  // The failure surface: through the slice edges as the slice stages left them, else through its
+  // points, along the arc when it is the circular surface.
   double xc = 0, yc = 0, radio = 0;
   const bool arco = CentroDeArcoDeFalla(p, xc, yc, radio);
   if (p.NúmeroPuntosFalla > 0) {
@@ -288,8 +292,8 @@ Figura FiguraSección(const Proyecto& p) {
     t.grosor = 2.2;
     t.nombre = "falla";
     t.leyenda = "Superficie de falla";
-    if (hayDovelas) {
-      for (long i = 1; i <= n + 1; ++i) t.puntos.push_back({d.BordeX[i], d.BordeYFalla[i]});
+    if (hayDovelas && b.guardados) {
+      for (long i = 1; i <= n + 1; ++i) t.puntos.push_back({bx(i), bf(i)});
     } else if (arco) {
       const double x1 = p.CoordenadasFalla.X.Leer(1), y1 = p.CoordenadasFalla.Y.Leer(1);
       const double x2 = p.CoordenadasFalla.X.Leer(2), y2 = p.CoordenadasFalla.Y.Leer(2);

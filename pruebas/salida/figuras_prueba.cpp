@@ -5,7 +5,11 @@
 #include <cmath>
 #include <string>
 
+#include "apoyo/apoyo.h"
+#include "proyecto/archivo.h"
+#include "proyecto/interfaz_guionada.h"
 #include "salida/caso_salida.h"
+#include "salida/resumen.h"
 #include "salida/graficos.h"
 #include "salida/seccion.h"
 
@@ -217,6 +221,45 @@ TEST_F(Figuras, LosDiagramasDeEsfuerzosSeDibujanAEscalaPerpendicularesALaBase) {
 TEST_F(Figuras, UnNombreQueNoEsDelMenúDaUnaFiguraVacía) {
   EXPECT_TRUE(FiguraGráfico(p, "GráficoInexistente").trazos.empty());
   EXPECT_EQ(NombresDeGráficos().size(), 10u);
+}
+
+}  // namespace
+}  // namespace lomaterra
+
+namespace lomaterra {
+namespace {
+
+// A project file keeps the slice middles, widths and stresses, not the edges: the output rebuilds
+// them and everything can be shown and printed after Open without calculating again.
+TEST(TrasAbrir, LasDovelasSeRehacenDeSusMediosYAnchos) {
+  Proyecto guardado = pruebas::CasoTresDovelas();
+  const std::string ruta = pruebas::CarpetaTemporal() + "/tres.cod";
+  InterfazGuionada ui("S", true);
+  // Saving stores the coordinate panel into the table in work first: the panel holds the surface.
+  CargarPanelCoordenadas(guardado, 1, 1);
+  ASSERT_TRUE(GuardarProyecto(guardado, ruta, ui));
+  Proyecto p;
+  ASSERT_TRUE(LeerProyecto(p, ruta, ui));
+  ASSERT_EQ(p.TablaDovelas.BordeX.Tamaño(), 0);
+  ASSERT_TRUE(HayResultados(p));
+  const BordesDeDovelas b = Bordes(p);
+  EXPECT_FALSE(b.guardados);
+  // Edges: middle ± half width: 25, 20, 15, 8. The ends on the end points of the failure surface,
+  // (25, 10) and (8, 0); the inner ones on the line between middles: at X = 20 between (22.5, 8)
+  // and (17.5, 4) → 6; at X = 15 between (17.5, 4) and (11.5, 1) → 2.75. Surface from its table.
+  const std::vector<double> x{0, 25, 20, 15, 8}, yf{0, 10, 6, 2.75, 0}, yt{0, 10, 10, 35.0 / 6, 0};
+  for (std::size_t i = 1; i <= 4; ++i) {
+    EXPECT_NEAR(b.x[i], x[i], 1e-9) << i;
+    EXPECT_NEAR(b.yFalla[i], yf[i], 1e-9) << i;
+    EXPECT_NEAR(b.yTalud[i], yt[i], 1e-9) << i;
+  }
+  const Figura f = FiguraSección(p);
+  for (long i = 1; i <= 4; ++i) EXPECT_TRUE(Contiene(f, x[i], yt[i])) << i;
+  // The failure surface keeps its own points, not the rebuilt edges.
+  const Trazo* falla = Buscar(f, "falla");
+  ASSERT_NE(falla, nullptr);
+  EXPECT_EQ(falla->puntos.size(), 3u);
+  EXPECT_FALSE(FiguraSecciónConEsfuerzos(p).trazos.empty());
 }
 
 }  // namespace
