@@ -1,16 +1,21 @@
 // Binds each menu entry to the command that the core runs for it. One line a command.
-#include "pantallas/comandos_archivo.h"
-#include "pantallas/comandos_coordenadas.h"
 #include "proyecto/comandos.h"
 
+#include "equilibrio/bishop.h"
+#include "equilibrio/fellenius.h"
+#include "equilibrio/janbu.h"
+#include "equilibrio/leshchinsky.h"
+#include "pantallas/comandos_archivo.h"
+#include "pantallas/comandos_coordenadas.h"
 #include "pantallas/constantes.h"
 #include "pantallas/constantes_elementos.h"
 #include "pantallas/form15.h"
+#include "pantallas/form18.h"
+#include "pantallas/form34.h"
 #include "pantallas/form5.h"
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
-#include "equilibrio/fellenius.h"
 #include "pantallas/resultados.h"
 
 namespace lomaterra {
@@ -39,6 +44,11 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MenúArchivoConstantes"] = MenúArchivoConstantes;
   a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
   a["MétodoFellenius"] = MétodoFellenius;
+  a["MétodoBishop"] = MétodoBishop;
+  a["MétodoJanbu"] = MétodoJanbu;
+  a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
+  a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
+  a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
   a["ResultadosCálculoRocas"] = ResultadosCálculoRocas;
   a["ResultadosCálculoSuelos"] = ResultadosCálculoSuelos;
   a["GráficoEsfuerzoPrincipalMenor"] = GráficoEsfuerzoPrincipalMenor;

@@ -186,12 +186,54 @@ Proyecto FallaPolinómica() {
   return Terminar(p);
 }
 
+// A slope of clean sand, 10 m high at 2H:1V, dry, by Bishop on the circle from the crest to the toe
+// with the radius varied in search of the least factor from R0 = 28.2 m.
+Proyecto BishopRadioVariable() {
+  Proyecto p = Base("Talud de arena limpia de 10 m de altura, pendiente 2H:1V, seco. Método de Bishop con "
+                    "búsqueda del radio de menor factor de seguridad a partir de 28.2 m.",
+                    "K0+150");
+  Puntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
+  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
+  Tramos(p, {{1, 2, "C"}});
+  Estratos(p, {{0, 34, 1.9, 2.05, 0, 0, 0, 0, {{70, 0}, {20, 0}}}});
+  auto& pi = p.ParámetrosIniciales;
+  pi.MétodoDeCálculo = 2;
+  pi.FSInicial = 1;
+  pi.Radio = 28.2;
+  pi.VaríaRadio = true;
+  pi.LetraVaríaRadio = "S";
+  return Terminar(p);
+}
+
+// The referee problem EX1(a) of the Australian ACADS study: a 10 m slope at 2H:1V, c' = 3 kPa,
+// phi' = 19.6°, gamma = 20 kN/m3 (in tons: divided by 9.81), dry. The critical circle has its
+// centre near (29.7, 53.2) and a radius near 28.2 m: it leaves the crest at X = 51.24 and touches
+// the ground at the toe. The rigorous methods give 0.986 to 0.993 on it.
+Proyecto JanbuACADS() {
+  Proyecto p = Base("Problema de referencia ACADS EX1(a): talud homogéneo de 10 m, 2H:1V, c' = 3 kPa, "
+                    "fi' = 19.6°, peso unitario 20 kN/m3, sin agua. Método de Janbu sobre el círculo crítico "
+                    "publicado (centro 29.7, 53.2; radio 28.2 m).",
+                    "EX1(a)");
+  Puntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
+  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
+  Tramos(p, {{1, 2, "C"}});
+  Estratos(p, {{3 / 9.81, 19.6, 20 / 9.81, 20 / 9.81, 0, 0, 0, 0, {{70, 0}, {20, 0}}}});
+  auto& pi = p.ParámetrosIniciales;
+  pi.MétodoDeCálculo = 4;
+  pi.FSInicial = 1;
+  pi.Radio = 28.2;
+  pi.NúmeroDovelas = 30;
+  return Terminar(p);
+}
+
 const std::vector<Ejemplo>& Ejemplos() {
   static const std::vector<Ejemplo> e = {
       {"talud_homogeneo.cod", TaludHomogéneo},
       {"talud_estratificado.cod", TaludEstratificado},
       {"falla_mixta_c.cod", FallaMixtaC},
       {"falla_polinomica.cod", FallaPolinómica},
+      {"bishop_radio_variable.cod", BishopRadioVariable},
+      {"janbu_acads.cod", JanbuACADS},
   };
   return e;
 }

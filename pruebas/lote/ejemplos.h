@@ -18,6 +18,8 @@ Proyecto TaludHomogéneo();
 Proyecto TaludEstratificado();
 Proyecto FallaMixtaC();
 Proyecto FallaPolinómica();
+Proyecto BishopRadioVariable();
+Proyecto JanbuACADS();
 
 const std::vector<Ejemplo>& Ejemplos();
 

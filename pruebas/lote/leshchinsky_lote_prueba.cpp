@@ -1,0 +1,55 @@
+// The variational method in a batch run: every question of the iteration screen takes the default
+// No, so the run goes on until the sums pass.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "apoyo/apoyo.h"
+
+namespace lomaterra::pruebas {
+namespace {
+
+std::vector<std::string> LíneasDeLote(const std::string& argumentos, int& estado) {
+  const std::string salida = CarpetaTemporal() + "/salida.txt";
+  const std::string orden =
+      std::string("'") + LOMATERRA_LOTE + "' " + argumentos + " >'" + salida + "' 2>&1";
+  const int r = std::system(orden.c_str());
+  estado = WIFEXITED(r) ? WEXITSTATUS(r) : -1;
+  std::ifstream f(salida);
+  std::vector<std::string> líneas;
+  for (std::string l; std::getline(f, l);) líneas.push_back(l);
+  return líneas;
+}
+
+TEST(LeshchinskyLote, ElEjemploIteraHastaQueLasSumasPasan) {
+  int estado = -1;
+  const auto líneas = LíneasDeLote(
+      "'" + RutaEjemplo("leshchinsky_homogeneo.cod") + "' ProcesoIterativoEnSuelos", estado);
+  EXPECT_EQ(estado, 0);
+  ASSERT_FALSE(líneas.empty());
+  EXPECT_EQ(líneas.front(),
+            "[pregunta]  | Está analizando desembalse rápido en presas de tierra? -> N");
+  int pasos = 0, noEsSolución = 0, noSalir = 0;
+  bool fin = false;
+  for (const auto& l : líneas) {
+    pasos += l == "[pantalla] Resultados de las iteraciones";
+    noEsSolución +=
+        l == "[pregunta] Resultados de las iteraciones | ¿Considera que es la solución? -> N";
+    noSalir += l == "[pregunta] Resultados de las iteraciones | ¿Desea salir del cálculo? -> N";
+    fin = fin || l == "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por "
+                      "el método de "
+                      "Leshchinsky and Ching-Chuan Huang para suelos.";
+  }
+  EXPECT_GE(pasos, 1);
+  EXPECT_EQ(noEsSolución, pasos);
+  EXPECT_EQ(noSalir, pasos);
+  EXPECT_TRUE(fin);
+}
+
+}  // namespace
+}  // namespace lomaterra::pruebas
