@@ -2,7 +2,8 @@
 // and for acceptance checks.
 //
 //   lomaterra-lote PROYECTO.cod COMANDO [COMANDO ...] [--respuestas SNSN...] [--por-defecto S|N]
-//                  [--json SALIDA.json] [--guardar OTRO.cod]
+//                  [--json SALIDA.json] [--guardar OTRO.cod] [--pdf INFORME.pdf]
+//                  [--figura NOMBRE=ARCHIVO.png|.svg ...]
 //
 // Each yes/no question takes the next letter of --respuestas, then the --por-defecto answer; a
 // screen that a command opens is closed with its exit button and no change. Every box is printed
@@ -20,6 +21,10 @@
 #include "proyecto/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 #include "resumen.h"
+#include "salida/graficos.h"
+#ifdef LOMATERRA_DIBUJO
+#include "salida_lote.h"
+#endif
 
 namespace lomaterra::lote {
 namespace {
@@ -31,7 +36,8 @@ constexpr int kUsoIncorrecto = 2;
 // The scripted interface that prints each box as soon as it is shown.
 class InterfazLote : public InterfazGuionada {
  public:
-  InterfazLote(const std::string& respuestas, bool porDefecto) : InterfazGuionada(respuestas, porDefecto) {}
+  InterfazLote(const std::string& respuestas, bool porDefecto)
+      : InterfazGuionada(respuestas, porDefecto) {}
 
   void Mensaje(const std::string& texto, const std::string& título = "") override {
     InterfazGuionada::Mensaje(texto, título);
@@ -84,20 +90,74 @@ class InterfazLote : public InterfazGuionada {
 
 int UsoIncorrecto(const std::string& mensaje) {
   const std::string uso = kUso;
-  std::cerr << "lomaterra-lote: " << mensaje << "\n" << uso.substr(0, uso.find('\n') + 1)
+  std::cerr << "lomaterra-lote: " << mensaje << "\n"
+            << uso.substr(0, uso.find('\n') + 1)
             << "Escriba lomaterra-lote --ayuda para ver todas las opciones.\n";
   return kUsoIncorrecto;
 }
 
 // Every command must be a built menu entry; nothing runs unless all are.
-std::string ComprobarComandos(const std::vector<EntradaMenú>& árbol, const std::vector<std::string>& comandos) {
+std::string ComprobarComandos(const std::vector<EntradaMenú>& árbol,
+                              const std::vector<std::string>& comandos) {
   for (const auto& c : comandos) {
     const EntradaMenú* e = BuscarEntrada(árbol, c);
-    if (!e) return "Comando desconocido: " + c + ". Los comandos se nombran por el nombre de control del menú (por ejemplo MétodoFellenius).";
+    if (!e)
+      return "Comando desconocido: " + c +
+             ". Los comandos se nombran por el nombre de control del menú (por ejemplo "
+             "MétodoFellenius).";
     if (e->EsSubmenú) return c + " es un menú, no un comando: nombre uno de sus comandos.";
-    if (!e->acción) return "El comando " + c + " todavía no está disponible en esta versión de Lomaterra.";
+    if (!e->acción)
+      return "El comando " + c + " todavía no está disponible en esta versión de Lomaterra.";
   }
   return "";
+}
+
+// Every figure must be an entry of the menu "Gráfico"; and drawing needs a build with Qt.
+std::string ComprobarSalidas(const Opciones& o) {
+  for (const auto& [nombre, archivo] : o.figuras) {
+    bool conocida = false;
+    for (const auto& n : NombresDeGráficos()) conocida |= n == nombre;
+    if (!conocida) {
+      std::string r = "Figura desconocida: " + nombre + ". Las figuras son:";
+      for (const auto& n : NombresDeGráficos()) r += " " + n;
+      return r + ".";
+    }
+  }
+#ifndef LOMATERRA_DIBUJO
+  if (o.pdf || !o.figuras.empty())
+    return "Esta compilación de lomaterra-lote no dibuja (se construyó sin Qt): --pdf y --figura "
+           "no están disponibles.";
+#endif
+  return "";
+}
+
+// The report and the figures asked for, after the commands. False when one could not be written.
+bool EscribirSalidas(const Opciones& o, const Proyecto& p) {
+  bool bien = true;
+#ifdef LOMATERRA_DIBUJO
+  std::string error;
+  if (o.pdf) {
+    if (EscribirInformeDeResultados(p, *o.pdf, error)) {
+      std::cout << "[informe] " << *o.pdf << '\n';
+    } else {
+      std::cerr << "lomaterra-lote: " << error << "\n";
+      bien = false;
+    }
+  }
+  for (const auto& [nombre, archivo] : o.figuras) {
+    if (EscribirFiguraDelMenú(p, nombre, archivo, error)) {
+      std::cout << "[figura] " << nombre << " | " << archivo << '\n';
+    } else {
+      std::cerr << "lomaterra-lote: " << error << "\n";
+      bien = false;
+    }
+  }
+  std::cout.flush();
+#else
+  (void)o;
+  (void)p;
+#endif
+  return bien;
 }
 
 bool EscribirTexto(const std::string& ruta, const std::string& texto) {
@@ -116,7 +176,9 @@ int Correr(const std::vector<std::string>& argumentos) {
     return kBien;
   }
   const std::vector<EntradaMenú> árbol = ÁrbolDeMenús();
-  if (auto error = ComprobarComandos(árbol, o.comandos); !error.empty()) return UsoIncorrecto(error);
+  if (auto error = ComprobarComandos(árbol, o.comandos); !error.empty())
+    return UsoIncorrecto(error);
+  if (auto error = ComprobarSalidas(o); !error.empty()) return UsoIncorrecto(error);
 
   std::error_code ec;
   if (!std::filesystem::is_regular_file(o.proyecto, ec)) {
@@ -143,13 +205,15 @@ int Correr(const std::vector<std::string>& argumentos) {
       fin = EjecutarComando(e->acción, p, ui);
     } catch (const std::exception& ex) {
       ui.Emitir();
-      std::cerr << "lomaterra-lote: el comando " << c << " terminó por una falla no prevista: " << ex.what() << "\n";
+      std::cerr << "lomaterra-lote: el comando " << c
+                << " terminó por una falla no prevista: " << ex.what() << "\n";
       fin = FinDeComando::Fallo;
     }
     ui.Emitir();
     if (fin == FinDeComando::Fallo) {
       fallo = true;
-      std::cerr << "lomaterra-lote: " << c << " terminó en falla; los comandos siguientes no se ejecutaron.\n";
+      std::cerr << "lomaterra-lote: " << c
+                << " terminó en falla; los comandos siguientes no se ejecutaron.\n";
       break;
     }
     if (p.Ventana.SalirDelPrograma) break;
@@ -158,7 +222,8 @@ int Correr(const std::vector<std::string>& argumentos) {
   int estado = fallo ? kFallo : kBien;
   if (o.guardar) {
     if (fallo) {
-      std::cerr << "lomaterra-lote: no se guardó \"" << *o.guardar << "\" porque un comando terminó en falla.\n";
+      std::cerr << "lomaterra-lote: no se guardó \"" << *o.guardar
+                << "\" porque un comando terminó en falla.\n";
     } else {
       bool guardado = false;
       try {
@@ -172,6 +237,14 @@ int Correr(const std::vector<std::string>& argumentos) {
         estado = kFallo;
       }
     }
+  }
+
+  if (o.pdf || !o.figuras.empty()) {
+    if (fallo)
+      std::cerr << "lomaterra-lote: no se escribieron el informe ni las figuras porque un comando "
+                   "terminó en falla.\n";
+    else if (!EscribirSalidas(o, p))
+      estado = kFallo;
   }
 
   const Resumen resumen = ResumirProyecto(p);

@@ -12,8 +12,21 @@
 
 namespace lomaterra {
 
+namespace {
+
+// The offscreen platform complains of a missing runtime folder that a batch run never needs.
+void Mensajes(QtMsgType tipo, const QMessageLogContext& contexto, const QString& texto) {
+  if (texto.startsWith(QLatin1String("QStandardPaths:"))) return;
+  qInstallMessageHandler(nullptr);
+  qt_message_output(tipo, contexto, texto);
+  qInstallMessageHandler(Mensajes);
+}
+
+}  // namespace
+
 void PrepararDibujoSinVentana() {
   if (QCoreApplication::instance()) return;
+  qInstallMessageHandler(Mensajes);
   if (!std::getenv("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   static int argc = 1;
   static char nombre[] = "lomaterra-lote";

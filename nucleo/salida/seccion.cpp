@@ -244,8 +244,9 @@ Figura FiguraSección(const Proyecto& p) {
   const long n = NúmeroDeDovelas(p);
   const auto& d = p.TablaDovelas;
   const BordesDeDovelas b = Bordes(p);
-  const bool hayDovelas = n >= 1 && (b.guardados || (d.XMedio.Tamaño() >= n && d.Ancho.Tamaño() >= n &&
-                                                     d.YBase.Tamaño() >= n && d.YTalud.Tamaño() >= n));
+  const bool hayDovelas =
+      n >= 1 && (b.guardados || (d.XMedio.Tamaño() >= n && d.Ancho.Tamaño() >= n &&
+                                 d.YBase.Tamaño() >= n && d.YTalud.Tamaño() >= n));
   auto bx = [&](long i) { return b.x[static_cast<std::size_t>(i)]; };
   auto bf = [&](long i) { return b.yFalla[static_cast<std::size_t>(i)]; };
   auto bt = [&](long i) { return b.yTalud[static_cast<std::size_t>(i)]; };
@@ -259,11 +260,12 @@ Figura FiguraSección(const Proyecto& p) {
       t.puntos = {{bx(i), bf(i)}, {bx(i), bt(i)}};
       f.trazos.push_back(std::move(t));
     }
+    // Numbers in the slices that are tall enough to hold them.
     if (n <= 60)
       for (long i = 1; i <= n; ++i) {
+        if (0.5 * (bt(i) + bt(i + 1) - bf(i) - bf(i + 1)) < 0.7 * largo) continue;
         const double x = 0.5 * (bx(i) + bx(i + 1));
-        const double y = 0.25 * (bf(i) + bf(i + 1) + bt(i) +
-                                 bt(i + 1));
+        const double y = 0.25 * (bf(i) + bf(i + 1) + bt(i) + bt(i + 1));
         f.rótulos.push_back({{x, y}, std::to_string(i), colores::Dovela, 7.0, "centro"});
       }
   }

@@ -1,6 +1,8 @@
 // The output functions that lomaterra-lote calls: report and figures by name, with clear refusals.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "apoyo/apoyo.h"
@@ -43,6 +45,29 @@ TEST(SalidaDeLote, ElArgumentoDeFiguraEsNombreIgualArchivo) {
   EXPECT_EQ(r, "sección.png");
   for (const char* malo : {"GráficoGeometría", "=a.png", "GráficoGeometría="})
     EXPECT_FALSE(LeerArgumentoFigura(malo, n, r)) << malo;
+}
+
+// lomaterra-lote itself with --pdf and --figura on a sample project.
+TEST(SalidaDeLote, ElEjecutorEscribeElInformeYLasFiguras) {
+  const std::string lote = LOMATERRA_LOTE;
+  const std::string ejemplo = pruebas::RutaEjemplo("talud_homogeneo.cod");
+  if (!std::filesystem::exists(lote) || !std::filesystem::exists(ejemplo))
+    GTEST_SKIP() << "falta " << lote;
+  const std::string carpeta = pruebas::CarpetaTemporal();
+  const std::string orden = "'" + lote + "' '" + ejemplo + "' MétodoFellenius --pdf '" + carpeta +
+                            "/r.pdf' --figura 'GráficoGeometría=" + carpeta +
+                            "/s.png' --figura 'GráficoEsfuerzoNormalesTotales=" + carpeta +
+                            "/n.svg' >'" + carpeta + "/salida.txt' 2>&1";
+  ASSERT_EQ(std::system(orden.c_str()), 0);
+  for (const char* a : {"/r.pdf", "/s.png", "/n.svg"})
+    EXPECT_GT(std::filesystem::file_size(carpeta + a), 1000u) << a;
+  // An unknown figure is a usage error and nothing runs.
+  const std::string mala = "'" + lote + "' '" + ejemplo +
+                           "' MétodoFellenius --figura 'Sección=" + carpeta +
+                           "/x.png' >/dev/null 2>&1";
+  const int r = std::system(mala.c_str());
+  EXPECT_EQ(WEXITSTATUS(r), 2);
+  EXPECT_FALSE(std::filesystem::exists(carpeta + "/x.png"));
 }
 
 }  // namespace
