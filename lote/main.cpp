@@ -36,8 +36,7 @@ constexpr int kUsoIncorrecto = 2;
 // The scripted interface that prints each box as soon as it is shown.
 class InterfazLote : public InterfazGuionada {
  public:
-  InterfazLote(const std::string& respuestas, bool porDefecto)
-      : InterfazGuionada(respuestas, porDefecto) {}
+  InterfazLote(const std::string& respuestas, bool porDefecto) : InterfazGuionada(respuestas, porDefecto) {}
 
   void Mensaje(const std::string& texto, const std::string& título = "") override {
     InterfazGuionada::Mensaje(texto, título);
@@ -90,24 +89,18 @@ class InterfazLote : public InterfazGuionada {
 
 int UsoIncorrecto(const std::string& mensaje) {
   const std::string uso = kUso;
-  std::cerr << "lomaterra-lote: " << mensaje << "\n"
-            << uso.substr(0, uso.find('\n') + 1)
+  std::cerr << "lomaterra-lote: " << mensaje << "\n" << uso.substr(0, uso.find('\n') + 1)
             << "Escriba lomaterra-lote --ayuda para ver todas las opciones.\n";
   return kUsoIncorrecto;
 }
 
 // Every command must be a built menu entry; nothing runs unless all are.
-std::string ComprobarComandos(const std::vector<EntradaMenú>& árbol,
-                              const std::vector<std::string>& comandos) {
+std::string ComprobarComandos(const std::vector<EntradaMenú>& árbol, const std::vector<std::string>& comandos) {
   for (const auto& c : comandos) {
     const EntradaMenú* e = BuscarEntrada(árbol, c);
-    if (!e)
-      return "Comando desconocido: " + c +
-             ". Los comandos se nombran por el nombre de control del menú (por ejemplo "
-             "MétodoFellenius).";
+    if (!e) return "Comando desconocido: " + c + ". Los comandos se nombran por el nombre de control del menú (por ejemplo MétodoFellenius).";
     if (e->EsSubmenú) return c + " es un menú, no un comando: nombre uno de sus comandos.";
-    if (!e->acción)
-      return "El comando " + c + " todavía no está disponible en esta versión de Lomaterra.";
+    if (!e->acción) return "El comando " + c + " todavía no está disponible en esta versión de Lomaterra.";
   }
   return "";
 }
@@ -176,8 +169,7 @@ int Correr(const std::vector<std::string>& argumentos) {
     return kBien;
   }
   const std::vector<EntradaMenú> árbol = ÁrbolDeMenús();
-  if (auto error = ComprobarComandos(árbol, o.comandos); !error.empty())
-    return UsoIncorrecto(error);
+  if (auto error = ComprobarComandos(árbol, o.comandos); !error.empty()) return UsoIncorrecto(error);
   if (auto error = ComprobarSalidas(o); !error.empty()) return UsoIncorrecto(error);
 
   std::error_code ec;
@@ -205,15 +197,13 @@ int Correr(const std::vector<std::string>& argumentos) {
       fin = EjecutarComando(e->acción, p, ui);
     } catch (const std::exception& ex) {
       ui.Emitir();
-      std::cerr << "lomaterra-lote: el comando " << c
-                << " terminó por una falla no prevista: " << ex.what() << "\n";
+      std::cerr << "lomaterra-lote: el comando " << c << " terminó por una falla no prevista: " << ex.what() << "\n";
       fin = FinDeComando::Fallo;
     }
     ui.Emitir();
     if (fin == FinDeComando::Fallo) {
       fallo = true;
-      std::cerr << "lomaterra-lote: " << c
-                << " terminó en falla; los comandos siguientes no se ejecutaron.\n";
+      std::cerr << "lomaterra-lote: " << c << " terminó en falla; los comandos siguientes no se ejecutaron.\n";
       break;
     }
     if (p.Ventana.SalirDelPrograma) break;
@@ -222,8 +212,7 @@ int Correr(const std::vector<std::string>& argumentos) {
   int estado = fallo ? kFallo : kBien;
   if (o.guardar) {
     if (fallo) {
-      std::cerr << "lomaterra-lote: no se guardó \"" << *o.guardar
-                << "\" porque un comando terminó en falla.\n";
+      std::cerr << "lomaterra-lote: no se guardó \"" << *o.guardar << "\" porque un comando terminó en falla.\n";
     } else {
       bool guardado = false;
       try {

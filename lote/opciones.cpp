@@ -36,10 +36,8 @@ bool SoloSN(const std::string& s) {
 
 std::string Mayúscula(std::string s) {
   for (char& c : s)
-    if (c == 's')
-      c = 'S';
-    else if (c == 'n')
-      c = 'N';
+    if (c == 's') c = 'S';
+    else if (c == 'n') c = 'N';
   return s;
 }
 
@@ -62,15 +60,13 @@ const std::vector<OpciónConValor>& TablaOpciones() {
   static const std::vector<OpciónConValor> t = {
       {"--respuestas",
        [](const std::string& v, Opciones& o) -> std::string {
-         if (!SoloSN(v))
-           return "--respuestas admite solo las letras S y N, y se dio \"" + v + "\".";
+         if (!SoloSN(v)) return "--respuestas admite solo las letras S y N, y se dio \"" + v + "\".";
          o.respuestas = Mayúscula(v);
          return "";
        }},
       {"--por-defecto",
        [](const std::string& v, Opciones& o) -> std::string {
-         if (v.size() != 1 || !SoloSN(v))
-           return "--por-defecto admite S o N, y se dio \"" + v + "\".";
+         if (v.size() != 1 || !SoloSN(v)) return "--por-defecto admite S o N, y se dio \"" + v + "\".";
          o.porDefecto = Mayúscula(v) == "S";
          return "";
        }},
@@ -86,8 +82,7 @@ const std::vector<OpciónConValor>& TablaOpciones() {
        }},
       {"--pdf",
        [](const std::string& v, Opciones& o) -> std::string {
-         if (!Termina(v, ".pdf"))
-           return "--pdf necesita un archivo terminado en .pdf, y se dio \"" + v + "\".";
+         if (!Termina(v, ".pdf")) return "--pdf necesita un archivo terminado en .pdf, y se dio \"" + v + "\".";
          o.pdf = v;
          return "";
        }},
@@ -95,13 +90,11 @@ const std::vector<OpciónConValor>& TablaOpciones() {
        [](const std::string& v, Opciones& o) -> std::string {
          const auto igual = v.find('=');
          if (igual == std::string::npos || igual == 0 || igual + 1 >= v.size())
-           return "--figura se escribe NOMBRE=ARCHIVO (por ejemplo GráficoGeometría=seccion.png), "
-                  "y se dio \"" +
+           return "--figura se escribe NOMBRE=ARCHIVO (por ejemplo GráficoGeometría=seccion.png), y se dio \"" +
                   v + "\".";
          const std::string archivo = v.substr(igual + 1);
          if (!Termina(archivo, ".png") && !Termina(archivo, ".svg"))
-           return "--figura necesita un archivo terminado en .png o .svg, y se dio \"" + archivo +
-                  "\".";
+           return "--figura necesita un archivo terminado en .png o .svg, y se dio \"" + archivo + "\".";
          o.figuras.push_back({v.substr(0, igual), archivo});
          return "";
        }},
@@ -134,15 +127,13 @@ std::string LeerArgumentos(const std::vector<std::string>& argumentos, Opciones&
       if (!opción) return "Opción desconocida: " + nombre + ".";
       // Every option once, but for the figures: one --figura a figure.
       for (const auto& v : vistas)
-        if (v == nombre && nombre != "--figura")
-          return "La opción " + nombre + " se dio más de una vez.";
+        if (v == nombre && nombre != "--figura") return "La opción " + nombre + " se dio más de una vez.";
       vistas.push_back(nombre);
       if (!conValor) {
         if (i + 1 >= argumentos.size()) return "Falta el valor de la opción " + nombre + ".";
         valor = argumentos[++i];
       }
-      if (valor.empty() && nombre != "--respuestas")
-        return "La opción " + nombre + " necesita un valor.";
+      if (valor.empty() && nombre != "--respuestas") return "La opción " + nombre + " necesita un valor.";
       if (auto error = opción->guardar(valor, o); !error.empty()) return error;
       continue;
     }

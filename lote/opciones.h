@@ -13,13 +13,12 @@ namespace lomaterra::lote {
 struct Opciones {
   std::string proyecto;
   std::vector<std::string> comandos;
-  std::string respuestas;   // "SNSN...": one letter a question, in order
-  bool porDefecto = false;  // the answer when the letters run out
+  std::string respuestas;  // "SNSN...": one letter a question, in order
+  bool porDefecto = false; // the answer when the letters run out
   std::optional<std::string> json;
   std::optional<std::string> guardar;
   std::optional<std::string> pdf;  // the results report
-  std::vector<std::pair<std::string, std::string>>
-      figuras;  // (menu control name, .png or .svg file)
+  std::vector<std::pair<std::string, std::string>> figuras;  // (menu control name, .png or .svg file)
   bool ayuda = false;
 };
 
