@@ -1,4 +1,7 @@
 // The painter writes figures to PNG, SVG and PDF; a person can look at the PNGs it leaves.
+#include <cmath>
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -45,5 +48,22 @@ TEST_F(Pintor, CadaGráficoDelMenúSeExportaEnPNGNoVacío) {
     EXPECT_GT(PíxelesPintados(imagen), 20000) << nombre;
   }
 }
+TEST_F(Pintor, UnaFiguraVacíaOConPuntosNoFinitosSeDibujaSinFallar) {
+  Figura vacía;
+  vacía.título = "Sin datos";
+  Figura rara;
+  rara.tipo = Figura::Tipo::Gráfico;
+  Trazo t;
+  t.puntos = {{0, 1}, {std::nan(""), 2}, {2, std::numeric_limits<double>::infinity()}, {3, 3}};
+  t.leyenda = "serie";
+  rara.trazos.push_back(t);
+  for (const Figura* f : {&vacía, &rara}) {
+    const QString ruta = QString::fromStdString(carpeta + "/rara.png");
+    QString error;
+    EXPECT_TRUE(ExportarPNG(*f, ruta, &error, QSize(400, 300))) << error.toStdString();
+    EXPECT_FALSE(QImage(ruta).isNull());
+  }
+}
+
 }  // namespace
 }  // namespace lomaterra
