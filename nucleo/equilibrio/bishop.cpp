@@ -37,12 +37,6 @@ const char* const kGuardaÁngulos =
     "abandone el análisis por este método. Si desea que el programa continúe  y no ver más este "
     "mensaje para otra dovela presione <SI> y Si desea salir del cálculo  presione <NO> .?";
 
-long UniformesDados(const Proyecto& p) {
-  return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0;
-}
-long PuntualesDados(const Proyecto& p) {
-  return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0;
-}
 
 // The history of factors as it stood before a run, put back when the run leaves without a result.
 struct HistoriaGuardada {
@@ -281,9 +275,9 @@ ResultadoIteración IteraciónBishop(Proyecto& p, Interfaz& ui, GuardasBishop& g
     const double b = d.Ancho[i];
     peso[i] =
         (d.YTalud[i] - d.YBase[i]) * d.PesoUnitarioMedio[i] * b + d.AlturaAguaSobreTalud[i] * b;
-    for (long k = 1; k <= UniformesDados(p); ++k)
+    for (long k = 1; k <= p.CargasUniformesVigentes(); ++k)
       if (CargaUniformeSobreDovela(p, k, i)) cargas[i] += p.CargaUniforme.qy[k] * b;
-    for (long k = 1; k <= PuntualesDados(p); ++k)
+    for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k)
       if (CargaPuntualEnDovela(p, k, i)) cargas[i] += p.CargaPuntual.Py[k];
     momentoCargas[i] = MomentoDeCargas(p, xr, yr, i);
   }

@@ -16,11 +16,6 @@ using namespace interno;
 
 namespace {
 
-// Loads given on the load screens. The counts outlive a New project, their flags do not: a load
-// acts only while its flag says the loads have been given.
-long CargasUniformes(const Proyecto& p) { return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0; }
-long CargasPuntuales(const Proyecto& p) { return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0; }
-
 bool UniformeEnDovela(const Proyecto& p, long k, long i) {
   const double x = p.TablaDovelas.XMedio[i];
   return p.CargaUniforme.xo.Leer(k) <= x && x <= p.CargaUniforme.xf.Leer(k);
@@ -45,16 +40,16 @@ double MomentoDeCargas(const Proyecto& p, double xr, double yr, long i) {
   }
   const double b = d.Ancho[i];
   double m = 0;
-  for (long k = 1; k <= CargasUniformes(p); ++k) {
+  for (long k = 1; k <= p.CargasUniformesVigentes(); ++k) {
     if (!UniformeEnDovela(p, k, i)) continue;
     if (circular)
       m -= b * u.qx.Leer(k) * d.PendienteTalud[i] * (yr - d.YTalud[i]);
     else
       m += b * u.qx.Leer(k) * d.PendienteTalud[i] * (d.YTalud[i] - yr);
   }
-  for (long k = 1; k <= CargasUniformes(p); ++k)
+  for (long k = 1; k <= p.CargasUniformesVigentes(); ++k)
     if (UniformeEnDovela(p, k, i)) m += b * u.qy.Leer(k) * (d.XMedio[i] - xr);
-  for (long k = 1; k <= CargasPuntuales(p); ++k) {
+  for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k) {
     if (!PuntualEnDovela(p, k, i)) continue;
     const double xp = c.Xpuntual.Leer(k), yp = c.Ypuntual.Leer(k);
     if (circular)
@@ -114,13 +109,13 @@ void MétodoFellenius(Proyecto& p, Interfaz& ui) {
     const double l = Div(b, std::cos(a), "la longitud de la base");
     const double w = h * d.PesoUnitarioMedio[i] * b + d.AlturaAguaSobreTalud[i] * b;
     double n = (1 + kv) * w * std::cos(a) - w * kh * std::sin(a);
-    for (long k = 1; k <= CargasUniformes(p); ++k)
+    for (long k = 1; k <= p.CargasUniformesVigentes(); ++k)
       if (UniformeEnDovela(p, k, i)) n += b * p.CargaUniforme.qx.Leer(k) * d.PendienteTalud[i] * std::sin(a);
-    for (long k = 1; k <= CargasPuntuales(p); ++k)
+    for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k)
       if (PuntualEnDovela(p, k, i)) n -= std::sin(a) * p.CargaPuntual.Px.Leer(k);
-    for (long k = 1; k <= CargasUniformes(p); ++k)
+    for (long k = 1; k <= p.CargasUniformesVigentes(); ++k)
       if (UniformeEnDovela(p, k, i)) n += b * p.CargaUniforme.qy.Leer(k) * std::cos(a);
-    for (long k = 1; k <= CargasPuntuales(p); ++k)
+    for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k)
       if (PuntualEnDovela(p, k, i)) n += std::cos(a) * p.CargaPuntual.Py.Leer(k);
     normal[static_cast<std::size_t>(i)] = n;
 

@@ -15,12 +15,6 @@ namespace lomaterra {
 
 namespace {
 
-long UniformesDados(const Proyecto& p) {
-  return p.CargasUniformesDadas ? p.NúmeroCargasUniformes : 0;
-}
-long PuntualesDados(const Proyecto& p) {
-  return p.CargasPuntualesDadas ? p.NúmeroCargasPuntuales : 0;
-}
 
 void AgregarFactor(Proyecto& p, double fs) {
   ++p.NúmeroIteraciones;
@@ -122,15 +116,15 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
     const double b = d.Ancho[i], h = d.YTalud[i] - d.YBase[i], u = d.PresiónPoros[i];
     c.W[i] = h * d.PesoUnitarioMedio[i] * b + d.AlturaAguaSobreTalud[i] * b;
     double V = c.dT[i] + c.W[i] + kv * c.W[i];
-    for (long k = 1; k <= UniformesDados(p); ++k)
+    for (long k = 1; k <= p.CargasUniformesVigentes(); ++k)
       if (CargaUniformeSobreDovela(p, k, i)) V += b * p.CargaUniforme.qy[k];
-    for (long k = 1; k <= PuntualesDados(p); ++k)
+    for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k)
       if (CargaPuntualEnDovela(p, k, i)) V += p.CargaPuntual.Py[k];
     c.A[i] = c.A0[i] = (V - u * b) * d.TanFricciónBase[i] + d.CohesiónBase[i] * b;
     double D = std::tan(c.alfa[i]) * V + kh * c.W[i];
-    for (long k = 1; k <= UniformesDados(p); ++k)
+    for (long k = 1; k <= p.CargasUniformesVigentes(); ++k)
       if (CargaUniformeSobreDovela(p, k, i)) D -= b * p.CargaUniforme.qx[k] * d.PendienteTalud[i];
-    for (long k = 1; k <= PuntualesDados(p); ++k)
+    for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k)
       if (CargaPuntualEnDovela(p, k, i)) D -= p.CargaPuntual.Px[k];
     c.D[i] = c.D0[i] = D;
   }
@@ -197,21 +191,21 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
       T -= Div((d.YTalud[j] - d.YBase[j]) * (kh * 0.5 * c.W[j]), bj + bj,
                "el cortante entre dovelas");
       double S = 0;
-      for (long k = 1; k <= PuntualesDados(p); ++k) {
+      for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k) {
         const auto& q = p.CargaPuntual;
         if (CargaPuntualEnDovela(p, k, i))
           S += Div((q.Xpuntual[k] - d.XMedio[i]) * (q.Py[k] * 0.5), bi);
         if (CargaPuntualEnDovela(p, k, j))
           S += Div((q.Xpuntual[k] - d.XMedio[j]) * (q.Py[k] * 0.5), bj);
       }
-      for (long k = 1; k <= PuntualesDados(p); ++k) {
+      for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k) {
         const auto& q = p.CargaPuntual;
         if (CargaPuntualEnDovela(p, k, i))
           S += Div((q.Ypuntual[k] - d.YBase[i]) * (q.Px[k] * 0.5), bi);
         if (CargaPuntualEnDovela(p, k, j))
           S += Div((q.Ypuntual[k] - d.YBase[j]) * (q.Px[k] * 0.5), bj);
       }
-      for (long k = 1; k <= UniformesDados(p); ++k) {
+      for (long k = 1; k <= p.CargasUniformesVigentes(); ++k) {
         const double qx = p.CargaUniforme.qx[k];
         if (CargaUniformeSobreDovela(p, k, i))
           S += qx * 0.5 * d.PendienteTalud[i] * (d.YTalud[i] - d.YBase[i]);
@@ -261,9 +255,9 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
     const double b = d.Ancho[i], u = d.PresiónPoros[i], a = c.alfa[i], ca = std::cos(a);
     // The vertical seismic force enters here with the sign opposite to the first forces.
     double Vf = c.W[i] + c.dT[i] - kv * c.W[i];
-    for (long k = 1; k <= PuntualesDados(p); ++k)
+    for (long k = 1; k <= p.CargasPuntualesVigentes(); ++k)
       if (CargaPuntualEnDovela(p, k, i)) Vf += p.CargaPuntual.Py[k];
-    for (long k = 1; k <= UniformesDados(p); ++k)
+    for (long k = 1; k <= p.CargasUniformesVigentes(); ++k)
       if (CargaUniformeSobreDovela(p, k, i)) Vf += b * p.CargaUniforme.qy[k];
     const double tau = Div(ca * ca * c.A[i], F * c.na[i] * b, "el esfuerzo tangencial");
     const double sigma = Div(Vf, b, "el esfuerzo normal") - std::tan(a) * tau;

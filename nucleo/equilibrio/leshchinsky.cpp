@@ -119,13 +119,13 @@ DatosVariacionales LeerDatosVariacionales(const Proyecto& p) {
       dv.ge[k] = dv.gm[k];
     dv.h[k] = i == 1 ? dv.b[k] / 2 : (dv.b[k] + dv.b[k - 1]) / 2;
 
-    for (long q = 1; q <= p.NúmeroCargasUniformes; ++q) {
+    for (long q = 1; q <= p.CargasUniformesVigentes(); ++q) {
       const auto& cu = p.CargaUniforme;
       if (cu.xo.Leer(q) <= dv.x[k] && dv.x[k] <= cu.xf.Leer(q))
         dv.uniformes[k].push_back({cu.qx.Leer(q), cu.qy.Leer(q)});
     }
     // A point load on an edge belongs to both slices that share it.
-    for (long q = 1; q <= p.NúmeroCargasPuntuales; ++q) {
+    for (long q = 1; q <= p.CargasPuntualesVigentes(); ++q) {
       const auto& cp = p.CargaPuntual;
       const double xp = cp.Xpuntual.Leer(q);
       if (d.BordeX[i + 1] <= xp && xp <= d.BordeX[i])

@@ -78,6 +78,7 @@ void ReiniciarProyecto(Proyecto& p) {
   p.EstratosCaracterizados = false;
   p.ParámetrosInicialesDados = false;
   p.ParámetrosIniciales.VaríaRadio = false;
+  p.ParámetrosIniciales.LetraVaríaRadio = "N";  // the flag and its letter are one datum
   p.GeometríaFallaDefinida = false;
   p.CargasUniformesDadas = false;
   p.CargasPuntualesDadas = false;
@@ -86,6 +87,9 @@ void ReiniciarProyecto(Proyecto& p) {
   p.HistoriaIteraciones.Redimensionar(0);
   p.NúmeroIteraciones = 0;
   p.TablaDovelas.BorrarResultados();
+  // No slices stand after a reset: the stage flags are cleared below, so the first calculation
+  // lays them again, and a project saved before it writes no slice rows.
+  p.NúmeroBordes = 0;
   p.SumaTangenciales = p.SumaNormalesTotales = p.SumaNormalesEfectivos = 0;
   p.SumaPrincipalesMayores = p.SumaPrincipalesMenores = 0;
   p.SumaFuerzasHorizontales = p.SumaFuerzasVerticales = p.SumaMomentos = 0;
@@ -99,6 +103,7 @@ void ReiniciarProyecto(Proyecto& p) {
   p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = false;
   p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = false;
   p.DesembalseRápido = false;
+  p.PresionesExistentes = false;
   // Everything of the mesh and of the seismic analysis.
   p.Malla.Limpiar();
   p.Sísmico.Limpiar();

@@ -231,6 +231,10 @@ struct Proyecto {
   }
   // The circular surface: one stretch, and it is an arc.
   bool SuperficieCircular() const;
+  // Loads in force. The counts outlive a New project, their flags do not: a load acts only while
+  // its flag says the loads have been given.
+  long CargasUniformesVigentes() const { return CargasUniformesDadas ? NúmeroCargasUniformes : 0; }
+  long CargasPuntualesVigentes() const { return CargasPuntualesDadas ? NúmeroCargasPuntuales : 0; }
 };
 
 // Resets the project as New and the start of a file read do.

@@ -228,12 +228,14 @@ struct JacobianoPrueba : SecciónPrueba {
     p.GrietaTracción.OrdenadaNF = 34.6;
     p.GrietaTracción.EmpujeGrieta = 0.5 * 0.6 * 0.6;
     p.NúmeroCargasUniformes = 1;
+    p.CargasUniformesDadas = true;
     p.CargaUniforme.Redimensionar(1);
     p.CargaUniforme.xo[1] = 40;
     p.CargaUniforme.xf[1] = 48;
     p.CargaUniforme.qx[1] = 0.8;
     p.CargaUniforme.qy[1] = 1.5;
     p.NúmeroCargasPuntuales = 1;
+    p.CargasPuntualesDadas = true;
     p.CargaPuntual.Redimensionar(1);
     p.CargaPuntual.Xpuntual[1] = d.XMedio[2];
     p.CargaPuntual.Ypuntual[1] = d.YTalud[2];
@@ -353,12 +355,14 @@ TEST_F(SecciónPrueba, PesoDeLaColumnaConAguaSobreElTaludYCargasEnSusDovelas) {
   // A point load exactly on the edge between slices 2 and 3, one inside slice 5; a uniform load
   // over slices 1 and 2 only, one with xo above xf that falls on no slice.
   p.NúmeroCargasPuntuales = 2;
+  p.CargasPuntualesDadas = true;
   p.CargaPuntual.Redimensionar(2);
   p.CargaPuntual.Xpuntual[1] = d.BordeX[3];
   p.CargaPuntual.Px[1] = 1.0;
   p.CargaPuntual.Xpuntual[2] = d.XMedio[5];
   p.CargaPuntual.Px[2] = 1.0;
   p.NúmeroCargasUniformes = 2;
+  p.CargasUniformesDadas = true;
   p.CargaUniforme.Redimensionar(2);
   p.CargaUniforme.xo[1] = d.XMedio[2] - 0.01;
   p.CargaUniforme.xf[1] = 100;

@@ -47,6 +47,7 @@ class Reinicio : public ::testing::Test {
     p.ParámetrosIniciales.CoeficienteSísmicoHorizontal = 0.1;
     p.ParámetrosIniciales.CentroX = 5;
     p.ParámetrosIniciales.VaríaRadio = true;
+    p.ParámetrosIniciales.LetraVaríaRadio = "S";
     p.ParámetrosIniciales.UsaParámetrosInstantáneos = true;
     p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S";
     p.NúmeroCargasUniformes = 2;
@@ -57,6 +58,8 @@ class Reinicio : public ::testing::Test {
     p.CoordenadasTalud.Redimensionar(2);
     p.CálculoHecho = p.InformaciónDada = p.EstratosCaracterizados = true;
     p.EtapaPoros = p.EtapaDovelas = true;
+    p.NúmeroBordes = 11;
+    p.PresionesExistentes = p.DesembalseRápido = true;
     p.GrietaTracción.EmpujeGrieta = 4.5;
     p.DatosGuardados = false;
     p.CaracterísticasSueloCompletas = false;
@@ -87,11 +90,15 @@ TEST_F(Reinicio, BorraLoQueDiceYConservaLoDemás) {
   // Cleared.
   EXPECT_FALSE(p.CargasUniformesDadas);
   EXPECT_FALSE(p.ParámetrosIniciales.VaríaRadio);
+  // The letter is the same datum as the flag: the constants screen must not show "S" after New.
+  EXPECT_EQ(p.ParámetrosIniciales.LetraVaríaRadio, "N");
   EXPECT_FALSE(p.ParámetrosIniciales.UsaParámetrosInstantáneos);
   EXPECT_EQ(p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos, "N");
   EXPECT_EQ(p.NúmeroPuntosTalud, 0);
   EXPECT_FALSE(p.CálculoHecho || p.InformaciónDada || p.EstratosCaracterizados);
   EXPECT_FALSE(p.EtapaPoros || p.EtapaDovelas);
+  EXPECT_EQ(p.NúmeroBordes, 0);
+  EXPECT_FALSE(p.PresionesExistentes || p.DesembalseRápido);
   EXPECT_EQ(p.GrietaTracción.EmpujeGrieta, 0);
   EXPECT_TRUE(p.DatosGuardados && p.ListaGuardada);
   EXPECT_TRUE(p.CaracterísticasSueloCompletas);
