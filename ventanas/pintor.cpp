@@ -302,14 +302,18 @@ void DibujarFigura(QPainter& p, const Figura& fig, const QRectF& marco) {
   p.setPen(Qt::black);
   if (!fig.título.empty()) {
     p.setFont(d.fTítulo);
+    const QFontMetricsF mTítulo(d.fTítulo, p.device());
     p.drawText(QRectF(marco.left(), y, marco.width(), d.altoTítulo), Qt::AlignCenter,
-               AQ(fig.título));
+               mTítulo.elidedText(AQ(fig.título), Qt::ElideRight, marco.width() - d.Px(16)));
     y += d.altoTítulo;
   }
   p.setFont(d.fNota);
   p.setPen(QColor(60, 60, 60));
+  const QFontMetricsF mNota(d.fNota, p.device());
   for (const auto& n : fig.notas) {
-    p.drawText(QRectF(marco.left(), y, marco.width(), d.altoNota), Qt::AlignCenter, AQ(n));
+    // A long description is cut with an ellipsis rather than spill out of the rectangle.
+    const QString nota = mNota.elidedText(AQ(n), Qt::ElideRight, marco.width() - d.Px(16));
+    p.drawText(QRectF(marco.left(), y, marco.width(), d.altoNota), Qt::AlignCenter, nota);
     y += d.altoNota;
   }
 
