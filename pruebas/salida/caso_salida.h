@@ -13,7 +13,7 @@
 
 namespace lomaterra::pruebas {
 
-inline void Puntos(TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> puntos) {
+inline void PonerPuntos(TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> puntos) {
   n = static_cast<Entero>(puntos.size());
   t.Redimensionar(n);
   long i = 0;
@@ -31,9 +31,9 @@ inline Proyecto CasoTresDovelas() {
   p.InformaciónDada = true;
   p.InformaciónProyecto = {"K0+100", "K0+160", "21/11/2026", "Ing. Ana Pérez", "Geotecnia Andina"};
   p.Ventana.TextoProyecto = "Talud de prueba de la vía norte";
-  Puntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{30, 10}, {20, 10}, {8, 0}, {0, 0}});
-  Puntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{25, 10}, {15, 2}, {8, 0}});
-  Puntos(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{30, 4}, {15, 1.5}, {0, 0}});
+  PonerPuntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{30, 10}, {20, 10}, {8, 0}, {0, 0}});
+  PonerPuntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{25, 10}, {15, 2}, {8, 0}});
+  PonerPuntos(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{30, 4}, {15, 1.5}, {0, 0}});
   p.NúmeroTramosFalla = 1;
   p.TramoFalla.Redimensionar(1);
   p.TramoFalla.PuntoInicial[1] = 1;
