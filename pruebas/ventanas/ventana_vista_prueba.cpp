@@ -1,0 +1,283 @@
+// The generic view of a screen and the modal opening of screens by the Qt interface: what the
+// user types reaches the screen before a button acts, what the screen holds afterwards is shown,
+// and the screen alone decides when it closes.
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTimer>
+#include <string>
+#include <vector>
+
+#include "interfaz_qt.h"
+#include "proyecto/comandos.h"
+#include "proyecto/fallos.h"
+#include "proyecto/interfaz_guionada.h"
+#include "proyecto/proyecto.h"
+#include "ventana_apoyo.h"
+#include "vista_pantalla.h"
+
+namespace lomaterra {
+namespace {
+
+// A screen with one box of each kind, a list and four buttons; it notes what its code saw.
+class PantallaDePrueba : public Pantalla {
+ public:
+  PantallaDePrueba() {
+    nombre = "FormPrueba";
+    título = "Pantalla de prueba";
+    nota = "Dé los valores y pulse Copiar.";
+  }
+  void Activar(Interfaz&) override {
+    ++activaciones;
+    campos = {{"TextoValor", "Valor (ton/m2):", "1.5", "Un número cualquiera", false},
+              {"TextoResultado", "Resultado:", "", "", true}};
+    ListaPantalla l;
+    l.nombre = "ListaFilas";
+    l.columnas = {"Fila", "Valor"};
+    l.filas = {{"1", "10.00"}, {"2", "20.00"}, {"3", "30.00"}};
+    l.alSeleccionar = [this](Interfaz&) {
+      seleccionesVistas.push_back(lista("ListaFilas").seleccionada);
+      const int f = lista("ListaFilas").seleccionada;
+      if (f >= 1)
+        texto("TextoValor") = lista("ListaFilas").filas[static_cast<std::size_t>(f - 1)][1];
+    };
+    listas = {l};
+    botones = {{"BotónCopiar", "&Copiar",
+                [this](Interfaz&) {
+                  valorVisto = texto("TextoValor");
+                  filaVista = lista("ListaFilas").seleccionada;
+                  texto("TextoResultado") = "copiado " + valorVisto;
+                  lista("ListaFilas").filas.push_back({"4", valorVisto});
+                }},
+               {"BotónAñadirCampo", "A&ñadir campo",
+                [this](Interfaz&) {
+                  campos.push_back({"TextoNuevo", "Nuevo:", "7", "", false});
+                }},
+               {"BotónFallo", "&Fallo", [](Interfaz&) { Div(1.0, 0.0); }},
+               {"BotónAceptar", "&Aceptar", [this](Interfaz&) { cerrada = true; }}};
+    if (cerrarAlActivar) cerrada = true;
+  }
+  // The exit refuses the first time and closes the second, as a screen that asks first may do.
+  void CerrarSinCambios(Interfaz&) override {
+    ++salidas;
+    if (salidas >= 2) cerrada = true;
+  }
+
+  int activaciones = 0, salidas = 0, filaVista = -1;
+  bool cerrarAlActivar = false;
+  std::string valorVisto;
+  std::vector<int> seleccionesVistas;
+};
+
+class VistaPrueba : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    pruebas::Aplicación();
+    pantalla.cerrada = false;
+    pantalla.Activar(guion);
+  }
+  template <class T>
+  T* Hijo(VistaPantalla& v, const char* nombre) {
+    return v.findChild<T*>(QString::fromUtf8(nombre));
+  }
+  PantallaDePrueba pantalla;
+  InterfazGuionada guion;
+};
+
+TEST_F(VistaPrueba, MuestraLosCamposLasListasYLosBotonesDeLaPantalla) {
+  VistaPantalla vista(pantalla, guion);
+  EXPECT_EQ(vista.objectName(), "FormPrueba");
+  EXPECT_EQ(vista.windowTitle(), "Pantalla de prueba");
+  auto* valor = Hijo<QLineEdit>(vista, "TextoValor");
+  auto* resultado = Hijo<QLineEdit>(vista, "TextoResultado");
+  ASSERT_TRUE(valor && resultado);
+  EXPECT_EQ(valor->text(), "1.5");
+  EXPECT_EQ(valor->toolTip(), "Un número cualquiera");
+  EXPECT_FALSE(valor->isReadOnly());
+  EXPECT_TRUE(resultado->isReadOnly());
+  bool etiqueta = false;
+  for (QLabel* l : vista.findChildren<QLabel*>())
+    if (l->text() == "Valor (ton/m2):" && l->buddy() == valor) etiqueta = true;
+  EXPECT_TRUE(etiqueta);
+  auto* nota = Hijo<QLabel>(vista, "Nota");
+  ASSERT_NE(nota, nullptr);
+  EXPECT_EQ(nota->text(), "Dé los valores y pulse Copiar.");
+
+  auto* tabla = Hijo<QTableWidget>(vista, "ListaFilas");
+  ASSERT_NE(tabla, nullptr);
+  ASSERT_EQ(tabla->columnCount(), 2);
+  EXPECT_EQ(tabla->horizontalHeaderItem(1)->text(), "Valor");
+  ASSERT_EQ(tabla->rowCount(), 3);
+  EXPECT_EQ(tabla->item(2, 1)->text(), "30.00");
+
+  auto* copiar = Hijo<QPushButton>(vista, "BotónCopiar");
+  ASSERT_NE(copiar, nullptr);
+  EXPECT_EQ(copiar->text(), "&Copiar");
+  EXPECT_EQ(vista.findChildren<QPushButton*>().size(), 4);
+}
+
+TEST_F(VistaPrueba, UnBotónRecibeLoEscritoYLaFilaElegidaYLaVistaMuestraElResultado) {
+  VistaPantalla vista(pantalla, guion);
+  vista.show();
+  auto* tabla = Hijo<QTableWidget>(vista, "ListaFilas");
+  tabla->selectRow(1);  // second row
+  Hijo<QLineEdit>(vista, "TextoValor")->setText("12.5");
+  Hijo<QPushButton>(vista, "BotónCopiar")->click();
+  EXPECT_EQ(pantalla.valorVisto, "12.5");
+  EXPECT_EQ(pantalla.filaVista, 2);
+  EXPECT_EQ(Hijo<QLineEdit>(vista, "TextoResultado")->text(), "copiado 12.5");
+  ASSERT_EQ(tabla->rowCount(), 4);
+  EXPECT_EQ(tabla->item(3, 1)->text(), "12.5");
+  EXPECT_TRUE(vista.isVisible());  // the screen did not close itself
+}
+
+TEST_F(VistaPrueba, ElegirUnaFilaAvisaALaPantallaYMuestraLoQueLlenó) {
+  VistaPantalla vista(pantalla, guion);
+  vista.show();
+  Hijo<QTableWidget>(vista, "ListaFilas")->selectRow(2);
+  ASSERT_EQ(pantalla.seleccionesVistas, std::vector<int>{3});
+  EXPECT_EQ(Hijo<QLineEdit>(vista, "TextoValor")->text(), "30.00");
+  EXPECT_EQ(pantalla.lista("ListaFilas").seleccionada, 3);
+}
+
+TEST_F(VistaPrueba, SeCierraCuandoLaPantallaDiceQueEstáCerrada) {
+  VistaPantalla vista(pantalla, guion);
+  vista.show();
+  Hijo<QPushButton>(vista, "BotónAceptar")->click();
+  EXPECT_TRUE(pantalla.cerrada);
+  EXPECT_FALSE(vista.isVisible());
+  EXPECT_EQ(vista.result(), QDialog::Accepted);
+}
+
+TEST_F(VistaPrueba, LaCajaDeCierreLlamaALaSalidaSinCambiosYRespetaUnaNegativa) {
+  VistaPantalla vista(pantalla, guion);
+  vista.show();
+  vista.close();
+  EXPECT_EQ(pantalla.salidas, 1);
+  EXPECT_TRUE(vista.isVisible());
+  vista.close();
+  EXPECT_EQ(pantalla.salidas, 2);
+  EXPECT_FALSE(vista.isVisible());
+}
+
+TEST_F(VistaPrueba, UnCampoNuevoDeLaPantallaAparece) {
+  VistaPantalla vista(pantalla, guion);
+  vista.show();
+  Hijo<QLineEdit>(vista, "TextoValor")->setText("9");
+  Hijo<QPushButton>(vista, "BotónAñadirCampo")->click();
+  QApplication::processEvents();
+  auto* nuevo = Hijo<QLineEdit>(vista, "TextoNuevo");
+  ASSERT_NE(nuevo, nullptr);
+  EXPECT_EQ(nuevo->text(), "7");
+  // What was typed before the rebuild is kept: the screen took it first.
+  EXPECT_EQ(Hijo<QLineEdit>(vista, "TextoValor")->text(), "9");
+}
+
+// Abrir of the Qt interface, with the modal loop replaced by a hand that presses buttons.
+class AbrirPrueba : public VistaPrueba {
+ protected:
+  void SetUp() override {
+    pruebas::Aplicación();
+    ui.Sustituto(&guion);
+  }
+  InterfazQt ui;
+};
+
+TEST_F(AbrirPrueba, ActivaLaPantallaYLaDejaEnManosDelUsuario) {
+  std::string títuloVisto;
+  ui.AlMostrar([&](VistaPantalla& v) {
+    títuloVisto = S(v.windowTitle());
+    v.findChild<QLineEdit*>("TextoValor")->setText("4");
+    v.findChild<QPushButton*>(QString::fromUtf8("BotónCopiar"))->click();
+    v.findChild<QPushButton*>(QString::fromUtf8("BotónAceptar"))->click();
+  });
+  ui.Abrir(pantalla);
+  EXPECT_EQ(pantalla.activaciones, 1);
+  EXPECT_EQ(títuloVisto, "Pantalla de prueba");
+  EXPECT_EQ(pantalla.valorVisto, "4");
+  EXPECT_TRUE(pantalla.cerrada);
+  EXPECT_EQ(pantalla.salidas, 0);
+}
+
+TEST_F(AbrirPrueba, UnaPantallaQueSeCierraAlActivarseNoSeMuestra) {
+  bool mostrada = false;
+  ui.AlMostrar([&](VistaPantalla&) { mostrada = true; });
+  pantalla.cerrarAlActivar = true;
+  ui.Abrir(pantalla);
+  EXPECT_FALSE(mostrada);
+  EXPECT_TRUE(pantalla.cerrada);
+}
+
+TEST_F(AbrirPrueba, UnaPantallaQueQuedaAbiertaSeCierraConSuSalida) {
+  ui.AlMostrar([](VistaPantalla&) {});
+  ui.Abrir(pantalla);
+  EXPECT_EQ(pantalla.salidas, 2);  // the first exit refused, the second closed
+  EXPECT_TRUE(pantalla.cerrada);
+}
+
+TEST_F(AbrirPrueba, UnaFallaAritméticaDeUnBotónTerminaElComandoConSuMensaje) {
+  ui.AlMostrar([](VistaPantalla& v) {
+    v.findChild<QPushButton*>(QString::fromUtf8("BotónFallo"))->click();
+  });
+  Proyecto p;
+  bool siguió = false;
+  const auto fin = EjecutarComando(
+      [&](Proyecto&, Interfaz& i) {
+        i.Abrir(pantalla);
+        siguió = true;
+      },
+      p, ui);
+  EXPECT_EQ(fin, FinDeComando::Fallo);
+  EXPECT_FALSE(siguió);
+  ASSERT_EQ(guion.Transcripción().size(), 1u);
+  EXPECT_EQ(guion.Transcripción()[0].título, TítuloDeFallo());
+}
+
+}  // namespace
+}  // namespace lomaterra
+
+namespace lomaterra {
+namespace {
+
+// A screen that shows its numbers and asks at once, as the iteration screens do.
+class PantallaQuePregunta : public Pantalla {
+ public:
+  PantallaQuePregunta() {
+    nombre = "FormPregunta";
+    título = "Resultados de las iteraciones";
+  }
+  void Activar(Interfaz& ui) override {
+    campos = {{"TextoDelFactorDeSeguridad", "Factor de seguridad:", "1.234567890", "", true}};
+    if (ui.Pregunta("¿Considera que es la solución?")) cerrada = true;
+  }
+};
+
+// The real box, answered by a timer: behind it the screen stands already shown and filled.
+TEST_F(VistaPrueba, LaPantallaSeVeDetrásDeLaPreguntaDeSuApertura) {
+  InterfazQt ui;
+  PantallaQuePregunta pantalla;
+  bool vistaDetrás = false;
+  QString valorDetrás;
+  QTimer::singleShot(0, [&] {
+    auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!caja) return;
+    if (auto* vista = qobject_cast<QDialog*>(caja->parentWidget())) {
+      vistaDetrás = vista->isVisible() && vista->objectName() == "FormPregunta";
+      if (auto* casilla = vista->findChild<QLineEdit*>("TextoDelFactorDeSeguridad"))
+        valorDetrás = casilla->text();
+    }
+    caja->findChild<QPushButton*>(QString::fromUtf8("BotónSí"))->click();
+  });
+  ui.Abrir(pantalla);
+  EXPECT_TRUE(vistaDetrás);
+  EXPECT_EQ(valorDetrás, "1.234567890");
+  EXPECT_TRUE(pantalla.cerrada);
+}
+
+}  // namespace
+}  // namespace lomaterra

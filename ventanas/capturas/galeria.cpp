@@ -1,0 +1,276 @@
+// lomaterra-galeria: renders the desktop program without a screen and writes what it shows to
+// PNG files for a person to look at: the main window with a sample project, its menus, a message
+// box and a question box, the help viewer, a sample of the generic screen view, and every screen
+// that a menu command opens on the sample project.
+//
+//   lomaterra-galeria [CARPETA] [PROYECTO.cod]
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFont>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPixmap>
+#include <QTextBrowser>
+#include <cstdio>
+#include <exception>
+#include <fstream>
+#include <set>
+#include <string>
+
+#include "ayuda_qt.h"
+#include "icono.h"
+#include "interfaz_qt.h"
+#include "muestra.h"
+#include "pantallas/comandos_archivo.h"
+#include "proyecto/comandos.h"
+#include "proyecto/interfaz_guionada.h"
+#include "ventana_principal_qt.h"
+#include "vista_pantalla.h"
+
+using namespace lomaterra;
+
+namespace {
+
+QString carpeta;
+std::set<std::string> guardadas;
+int fallos = 0;
+
+void Guardar(QWidget& w, const std::string& nombre) {
+  w.show();
+  QApplication::processEvents();
+  QPixmap imagen = w.grab();
+  // A window's picture carries its title on a bar of its own, as a window manager would draw it.
+  if (w.isWindow() && !qobject_cast<QMenu*>(&w) && !w.windowTitle().isEmpty()) {
+    const int alto = 28;
+    QPixmap conTítulo(imagen.width(), imagen.height() + alto);
+    conTítulo.fill(Qt::white);
+    QPainter pintor(&conTítulo);
+    pintor.fillRect(0, 0, imagen.width(), alto, QColor(0x3a, 0x4e, 0x66));
+    pintor.setPen(Qt::white);
+    QFont letra = QApplication::font();
+    letra.setBold(true);
+    pintor.setFont(letra);
+    pintor.drawText(QRect(10, 0, imagen.width() - 20, alto), Qt::AlignVCenter | Qt::AlignLeft,
+                    w.windowTitle());
+    pintor.drawPixmap(0, alto, imagen);
+    pintor.end();
+    imagen = conTítulo;
+  }
+  const QString ruta = QDir(carpeta).filePath(Q(nombre) + ".png");
+  if (imagen.isNull() || !imagen.save(ruta)) {
+    std::fprintf(stderr, "no se pudo guardar %s\n", ruta.toUtf8().constData());
+    ++fallos;
+    return;
+  }
+  guardadas.insert(nombre);
+  std::printf("%s (%dx%d)\n", ruta.toUtf8().constData(), imagen.width(), imagen.height());
+}
+
+// Ends the command that opened a screen once its picture is taken.
+struct Corte {};
+
+// Answers every question the same way and stops a command that asks without end.
+class Guion : public InterfazGuionada {
+ public:
+  explicit Guion(bool sí) : InterfazGuionada("", sí) {}
+  bool Pregunta(const std::string& t, const std::string& título) override {
+    Contar();
+    return InterfazGuionada::Pregunta(t, título);
+  }
+  void Mensaje(const std::string& t, const std::string& título) override {
+    Contar();
+    InterfazGuionada::Mensaje(t, título);
+  }
+
+ private:
+  void Contar() {
+    if (++cuenta_ > 200) throw Corte{};
+  }
+  int cuenta_ = 0;
+};
+
+// A screen of every kind of control, for the look of the generic view.
+class PantallaDeMuestra : public Pantalla {
+ public:
+  PantallaDeMuestra() {
+    nombre = "MuestraVistaGenérica";
+    título = "Cargas uniformes distribuidas sobre  la cara del talud";
+    nota =
+        "'qx' es positiva cuando aplique compresión al talud. Esta dirigida en dirección "
+        "horizontal (eje de las "
+        "abscisas).";
+    campos = {{"TextoAbscisaInicial", "Abscisa inicial xo (m):", "48",
+               "Abscisa menor del tramo cargado", false},
+              {"TextoOrdenadaInicial", "Ordenada inicial yo (m):", "20", "", false},
+              {"TextoAbscisaFinal", "Abscisa final xf (m):", "56", "", false},
+              {"TextoOrdenadaFinal", "Ordenada final yf (m):", "20", "", false},
+              {"TextoCargaQx", "Carga qx (ton/m2):", "0", "", false},
+              {"TextoCargaQy", "Carga qy (ton/m2):", "2", "", false},
+              {"TextoNúmeroDeCargas", "Número de cargas:", "1", "", true}};
+    ListaPantalla l;
+    l.nombre = "ListaCargas";
+    l.columnas = {"Carga", "xo (m)", "yo (m)", "xf (m)", "yf (m)", "qx (ton/m2)", "qy (ton/m2)"};
+    l.filas = {{"1", "48.00", "20.00", "56.00", "20.00", "0.00", "2.00"}};
+    l.seleccionada = 1;
+    listas = {l};
+    botones = {{"BotónAgregar", "&Agregar", {}},
+               {"BotónModificar", "&Modificar", {}},
+               {"BotónAceptar", "A&ceptar", {}},
+               {"BotónCancelar", "&Cancelar", {}}};
+  }
+  void Activar(Interfaz&) override {}
+};
+
+void Pantallas(const Proyecto& muestra, const std::string& variante, std::ofstream& transcripción) {
+  for (const EntradaMenú& e : ÁrbolDeMenús()) {
+    if (!e.acción) continue;
+    // Nothing that writes a file or ends the program.
+    if (e.nombre == "MenúArchivoSalir" || e.nombre == "MenúArchivoGuardar" ||
+        e.nombre == "MenúArchivoGuardarComo" || e.nombre == "ArchivoNuevo")
+      continue;
+    // First with No to every question, then with Yes when No opened no new screen.
+    for (bool sí : {false, true}) {
+      Proyecto copia = muestra;
+      Guion guion(sí);
+      InterfazQt ui;
+      ui.Sustituto(&guion);
+      bool nueva = false;
+      ui.AlMostrar([&](VistaPantalla& vista) {
+        const std::string nombre =
+            vista.pantalla().nombre.empty() ? e.nombre : vista.pantalla().nombre;
+        if (!guardadas.count(nombre)) {
+          Guardar(vista, nombre);
+          nueva = true;
+        }
+        throw Corte{};
+      });
+      std::string falla;
+      try {
+        EjecutarComando(e.acción, copia, ui);
+      } catch (const Corte&) {
+      } catch (const std::exception& ex) {
+        falla = ex.what();
+      }
+      transcripción << "== " << variante << ": " << e.nombre << (sí ? " [Sí]" : " [No]") << "\n";
+      for (const Apunte& a : guion.Transcripción())
+        transcripción << "  " << InterfazGuionada::Línea(a) << "\n";
+      if (!falla.empty()) transcripción << "  (falla: " << falla << ")\n";
+      if (nueva) break;
+    }
+  }
+}
+
+// The sample as it stands, and as it stands with each other method chosen and after a
+// calculation, so that the screens of every method and of the results are reached too.
+void TodasLasPantallas(const Proyecto& muestra, std::ofstream& transcripción) {
+  Pantallas(muestra, "muestra", transcripción);
+  const struct {
+    const char* nombre;
+    Entero método;
+  } métodos[] = {{"Leshchinsky", 1}, {"Bishop", 2}, {"Janbu", 4}};
+  for (const auto& m : métodos) {
+    Proyecto p = muestra;
+    auto& q = p.ParámetrosIniciales;
+    q.MétodoDeCálculo = m.método;
+    q.Multiplicador1 = 30;  // an abscissa between the ends of the failure surface
+    q.Multiplicador2 = 45;  // an ordinate above the crest
+    q.EsfuerzoInicialCresta = 0;
+    Pantallas(p, m.nombre, transcripción);
+  }
+  Proyecto calculada = muestra;
+  InterfazGuionada mudo("N");
+  const auto árbol = ÁrbolDeMenús();
+  if (const EntradaMenú* fellenius = BuscarEntrada(árbol, "MétodoFellenius"))
+    EjecutarComando(fellenius->acción, calculada, mudo);
+  calculada.CálculoHecho = true;
+  calculada.ParámetrosIniciales.ParámetrosInstantáneos = 2;
+  Pantallas(calculada, "calculada", transcripción);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  QApplication::setFont(QFont("DejaVu Sans", 9));
+  QApplication::setWindowIcon(IconoLomaterra());
+  const QStringList argumentos = QApplication::arguments();
+  carpeta = argumentos.size() > 1 ? argumentos[1] : QStringLiteral("galeria");
+  QDir().mkpath(carpeta);
+
+  Proyecto muestra;
+  ProyectoDeMuestra(muestra);
+  if (argumentos.size() > 2) {
+    InterfazGuionada mudo;
+    AbrirArchivoDeProyecto(muestra, mudo, S(argumentos[2]));
+    for (const Apunte& a : mudo.Transcripción())
+      std::fprintf(stderr, "%s\n", InterfazGuionada::Línea(a).c_str());
+  }
+
+  {
+    Proyecto p = muestra;
+    VentanaPrincipalQt ventana(p);
+    ventana.interfaz().Estado("Proyecto de muestra abierto.");
+    Guardar(ventana, "ventana_principal");
+    for (QMenu* menú : ventana.menuBar()->findChildren<QMenu*>()) {
+      if (menú->objectName().isEmpty()) continue;  // the bar's own overflow menu
+      menú->popup(QPoint(0, 0));
+      Guardar(*menú, "menú_" + S(menú->objectName()));
+      menú->hide();
+    }
+    ventana.hide();
+  }
+  {
+    // The same window after Fellenius has run from its menu.
+    Proyecto p = muestra;
+    VentanaPrincipalQt ventana(p);
+    InterfazGuionada guion("N");
+    ventana.interfaz().Sustituto(&guion);
+    if (ventana.EjecutarMenú("MétodoFellenius"))
+      Guardar(ventana, "ventana_principal_tras_fellenius");
+    ventana.hide();
+  }
+  {
+    auto caja = CrearCaja("Debe dar la información del proyecto. Entre al menú 'Archivo'",
+                          "Información requerida", false, nullptr);
+    Guardar(*caja, "caja_mensaje");
+    auto pregunta =
+        CrearCaja("No ha guardado los datos actuales, ¿desea guardarlos?", "", true, nullptr);
+    Guardar(*pregunta, "caja_pregunta");
+    // The about box with the text of its own command.
+    InterfazGuionada guion;
+    MenúAyudaAcercaDe(muestra, guion);
+    const Apunte a = guion.Transcripción().empty() ? Apunte{} : guion.Transcripción().back();
+    auto acerca = CrearCaja(a.texto, a.título, false, nullptr);
+    acerca->setIconPixmap(IconoLomaterra().pixmap(64, 64));
+    Guardar(*acerca, "caja_acerca_de");
+  }
+  {
+    const QString ayuda = InterfazQt::BuscarAyuda("AYUDALOMATERRA.HLP");
+    if (ayuda.isEmpty()) {
+      std::fprintf(stderr, "no se encontró AYUDALOMATERRA.HLP\n");
+      ++fallos;
+    } else {
+      QDialog* ventana = CrearVentanaAyuda(ayuda, nullptr);
+      Guardar(*ventana, "ayuda");
+      if (auto* texto = ventana->findChild<QTextBrowser*>()) {
+        texto->scrollToAnchor("teoria");
+        Guardar(*ventana, "ayuda_teoría");
+      }
+      delete ventana;
+    }
+  }
+  {
+    PantallaDeMuestra pantalla;
+    InterfazGuionada mudo;
+    VistaPantalla vista(pantalla, mudo);
+    Guardar(vista, "vista_genérica");
+  }
+  std::ofstream transcripción(QDir(carpeta).filePath("transcripcion.txt").toStdString());
+  TodasLasPantallas(muestra, transcripción);
+  std::printf("%zu imágenes en %s\n", guardadas.size(), carpeta.toUtf8().constData());
+  return fallos == 0 && guardadas.count("ventana_principal") ? 0 : 1;
+}
