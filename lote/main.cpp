@@ -2,7 +2,8 @@
 // and for acceptance checks.
 //
 //   lomaterra-lote PROYECTO.cod COMANDO [COMANDO ...] [--respuestas SNSN...] [--por-defecto S|N]
-//                  [--json SALIDA.json] [--guardar OTRO.cod]
+//                  [--json SALIDA.json] [--guardar OTRO.cod] [--pdf INFORME.pdf]
+//                  [--figura NOMBRE=ARCHIVO.png|.svg ...]
 //
 // Each yes/no question takes the next letter of --respuestas, then the --por-defecto answer; a
 // screen that a command opens is closed with its exit button and no change. Every box is printed
@@ -20,6 +21,10 @@
 #include "proyecto/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 #include "resumen.h"
+#include "salida/graficos.h"
+#ifdef LOMATERRA_DIBUJO
+#include "salida_lote.h"
+#endif
 
 namespace lomaterra::lote {
 namespace {
@@ -100,6 +105,54 @@ std::string ComprobarComandos(const std::vector<EntradaMenú>& árbol, const std
   return "";
 }
 
+// Every figure must be an entry of the menu "Gráfico"; and drawing needs a build with Qt.
+std::string ComprobarSalidas(const Opciones& o) {
+  for (const auto& [nombre, archivo] : o.figuras) {
+    bool conocida = false;
+    for (const auto& n : NombresDeGráficos()) conocida |= n == nombre;
+    if (!conocida) {
+      std::string r = "Figura desconocida: " + nombre + ". Las figuras son:";
+      for (const auto& n : NombresDeGráficos()) r += " " + n;
+      return r + ".";
+    }
+  }
+#ifndef LOMATERRA_DIBUJO
+  if (o.pdf || !o.figuras.empty())
+    return "Esta compilación de lomaterra-lote no dibuja (se construyó sin Qt): --pdf y --figura "
+           "no están disponibles.";
+#endif
+  return "";
+}
+
+// The report and the figures asked for, after the commands. False when one could not be written.
+bool EscribirSalidas(const Opciones& o, const Proyecto& p) {
+  bool bien = true;
+#ifdef LOMATERRA_DIBUJO
+  std::string error;
+  if (o.pdf) {
+    if (EscribirInformeDeResultados(p, *o.pdf, error)) {
+      std::cout << "[informe] " << *o.pdf << '\n';
+    } else {
+      std::cerr << "lomaterra-lote: " << error << "\n";
+      bien = false;
+    }
+  }
+  for (const auto& [nombre, archivo] : o.figuras) {
+    if (EscribirFiguraDelMenú(p, nombre, archivo, error)) {
+      std::cout << "[figura] " << nombre << " | " << archivo << '\n';
+    } else {
+      std::cerr << "lomaterra-lote: " << error << "\n";
+      bien = false;
+    }
+  }
+  std::cout.flush();
+#else
+  (void)o;
+  (void)p;
+#endif
+  return bien;
+}
+
 bool EscribirTexto(const std::string& ruta, const std::string& texto) {
   std::ofstream f(ruta, std::ios::binary | std::ios::trunc);
   if (!f) return false;
@@ -117,6 +170,7 @@ int Correr(const std::vector<std::string>& argumentos) {
   }
   const std::vector<EntradaMenú> árbol = ÁrbolDeMenús();
   if (auto error = ComprobarComandos(árbol, o.comandos); !error.empty()) return UsoIncorrecto(error);
+  if (auto error = ComprobarSalidas(o); !error.empty()) return UsoIncorrecto(error);
 
   std::error_code ec;
   if (!std::filesystem::is_regular_file(o.proyecto, ec)) {
@@ -172,6 +226,14 @@ int Correr(const std::vector<std::string>& argumentos) {
         estado = kFallo;
       }
     }
+  }
+
+  if (o.pdf || !o.figuras.empty()) {
+    if (fallo)
+      std::cerr << "lomaterra-lote: no se escribieron el informe ni las figuras porque un comando "
+                   "terminó en falla.\n";
+    else if (!EscribirSalidas(o, p))
+      estado = kFallo;
   }
 
   const Resumen resumen = ResumirProyecto(p);

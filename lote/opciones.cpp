@@ -6,7 +6,8 @@ namespace lomaterra::lote {
 
 const char* const kUso =
     "Uso: lomaterra-lote PROYECTO.cod COMANDO [COMANDO ...] [--respuestas SNSN...] "
-    "[--por-defecto S|N] [--json SALIDA.json] [--guardar OTRO.cod]\n"
+    "[--por-defecto S|N] [--json SALIDA.json] [--guardar OTRO.cod] [--pdf INFORME.pdf] "
+    "[--figura NOMBRE=ARCHIVO.png|.svg ...]\n"
     "\n"
     "Lee el proyecto, corre los comandos del menú por su nombre de control (por ejemplo\n"
     "MétodoFellenius) y muestra lo que cada comando dijo y un resumen de los resultados.\n"
@@ -15,6 +16,10 @@ const char* const kUso =
     "  --por-defecto S|N     respuesta cuando se acaban las letras (N si no se da)\n"
     "  --json SALIDA.json    escribe la transcripción y el resumen en JSON\n"
     "  --guardar OTRO.cod    guarda el proyecto al terminar los comandos\n"
+    "  --pdf INFORME.pdf     escribe el informe de resultados del cálculo por equilibrio límite\n"
+    "  --figura NOMBRE=ARCHIVO.png|.svg\n"
+    "                        dibuja una figura del menú Gráfico por su nombre de control (por\n"
+    "                        ejemplo GráficoGeometría=seccion.png); puede darse varias veces\n"
     "  --ayuda               muestra este texto\n"
     "\n"
     "Estado de salida: 0 los comandos corrieron (digan lo que digan sus mensajes); 1 una falla\n"
@@ -34,6 +39,15 @@ std::string Mayúscula(std::string s) {
     if (c == 's') c = 'S';
     else if (c == 'n') c = 'N';
   return s;
+}
+
+// The text ends with the extension, in either case.
+bool Termina(const std::string& texto, const std::string& extensión) {
+  if (texto.size() <= extensión.size()) return false;
+  std::string final = texto.substr(texto.size() - extensión.size());
+  for (char& c : final)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return final == extensión;
 }
 
 struct OpciónConValor {
@@ -66,6 +80,24 @@ const std::vector<OpciónConValor>& TablaOpciones() {
          o.guardar = v;
          return "";
        }},
+      {"--pdf",
+       [](const std::string& v, Opciones& o) -> std::string {
+         if (!Termina(v, ".pdf")) return "--pdf necesita un archivo terminado en .pdf, y se dio \"" + v + "\".";
+         o.pdf = v;
+         return "";
+       }},
+      {"--figura",
+       [](const std::string& v, Opciones& o) -> std::string {
+         const auto igual = v.find('=');
+         if (igual == std::string::npos || igual == 0 || igual + 1 >= v.size())
+           return "--figura se escribe NOMBRE=ARCHIVO (por ejemplo GráficoGeometría=seccion.png), y se dio \"" +
+                  v + "\".";
+         const std::string archivo = v.substr(igual + 1);
+         if (!Termina(archivo, ".png") && !Termina(archivo, ".svg"))
+           return "--figura necesita un archivo terminado en .png o .svg, y se dio \"" + archivo + "\".";
+         o.figuras.push_back({v.substr(0, igual), archivo});
+         return "";
+       }},
   };
   return t;
 }
@@ -93,8 +125,9 @@ std::string LeerArgumentos(const std::vector<std::string>& argumentos, Opciones&
       for (const auto& t : TablaOpciones())
         if (nombre == t.nombre) opción = &t;
       if (!opción) return "Opción desconocida: " + nombre + ".";
+      // Every option once, but for the figures: one --figura a figure.
       for (const auto& v : vistas)
-        if (v == nombre) return "La opción " + nombre + " se dio más de una vez.";
+        if (v == nombre && nombre != "--figura") return "La opción " + nombre + " se dio más de una vez.";
       vistas.push_back(nombre);
       if (!conValor) {
         if (i + 1 >= argumentos.size()) return "Falta el valor de la opción " + nombre + ".";

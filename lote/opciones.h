@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lomaterra::lote {
@@ -16,6 +17,8 @@ struct Opciones {
   bool porDefecto = false; // the answer when the letters run out
   std::optional<std::string> json;
   std::optional<std::string> guardar;
+  std::optional<std::string> pdf;  // the results report
+  std::vector<std::pair<std::string, std::string>> figuras;  // (menu control name, .png or .svg file)
   bool ayuda = false;
 };
 

@@ -16,6 +16,7 @@
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
+#include "pantallas/resultados.h"
 
 namespace lomaterra {
 
@@ -48,6 +49,20 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
   a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
   a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
+  a["ResultadosCálculoRocas"] = ResultadosCálculoRocas;
+  a["ResultadosCálculoSuelos"] = ResultadosCálculoSuelos;
+  a["GráficoEsfuerzoPrincipalMenor"] = GráficoEsfuerzoPrincipalMenor;
+  a["GráficoEsfuerzoPrincipalMayor"] = GráficoEsfuerzoPrincipalMayor;
+  a["GráficoEsfuerzoNormalesTotales"] = GráficoEsfuerzoNormalesTotales;
+  a["GráficoEsfuerzoNormalesEfectivos"] = GráficoEsfuerzoNormalesEfectivos;
+  a["GráficoEsfuerzosTangencialesMovilizados"] = GráficoEsfuerzosTangencialesMovilizados;
+  a["GráficoResistenciaAlCorteVsEsfuerzoNormal"] = GráficoResistenciaAlCorteVsEsfuerzoNormal;
+  a["GráficoEsfuerzosNormalesTotalesEfectivosTangenciales"] = GráficoEsfuerzosNormalesTotalesEfectivosTangenciales;
+  a["GráficoDeEsfuerzosPrincipales"] = GráficoDeEsfuerzosPrincipales;
+  a["GráficoGeometríaAdaptadaEscalaEsfuerzos"] = GráficoGeometríaAdaptadaEscalaEsfuerzos;
+  a["GráficoGeometría"] = GráficoGeometría;
+  a["ImprimirInformaciónDadaAlPrograma"] = ImprimirInformaciónDadaAlPrograma;
+  a["ImprimirResultadosAnálisisMétodosEquilibrioLímites"] = ImprimirResultadosAnálisisMétodosEquilibrioLímites;
 }
 
 }  // namespace lomaterra

@@ -9,6 +9,9 @@
 
 namespace lomaterra {
 
+struct Figura;
+struct Informe;
+
 class Interfaz {
  public:
   virtual ~Interfaz() = default;
@@ -32,6 +35,13 @@ class Interfaz {
   virtual void Ayuda(const std::string& archivo) { (void)archivo; }
   // The about box.
   virtual void AcercaDe(const std::string& título, const std::string& texto) { Mensaje(texto, título); }
+
+  // Shows a drawing or a chart of the results in a window of its own, modally.
+  virtual void MostrarFigura(const Figura& figura) { (void)figura; }
+  // Puts text on the clipboard (tab-separated tables go straight into a spreadsheet).
+  virtual void CopiarAlPortapapeles(const std::string& texto) { (void)texto; }
+  // Prints a report: the printer dialog, then the pages.
+  virtual void Imprimir(const Informe& informe) { (void)informe; }
 };
 
 // The file title of a path, as the file dialogs give it: the name without its folder.

@@ -2,6 +2,9 @@
 
 #include <cctype>
 
+#include "salida/figura.h"
+#include "salida/informe.h"
+
 namespace lomaterra {
 
 std::string TítuloDeArchivo(const std::string& ruta) {
@@ -85,6 +88,18 @@ void InterfazGuionada::Ayuda(const std::string& archivo) {
   apuntes_.push_back({"ayuda", "", archivo, ""});
 }
 
+void InterfazGuionada::MostrarFigura(const Figura& figura) {
+  apuntes_.push_back({"figura", figura.título, figura.nombre, ""});
+}
+
+void InterfazGuionada::CopiarAlPortapapeles(const std::string& texto) {
+  apuntes_.push_back({"portapapeles", "", texto, ""});
+}
+
+void InterfazGuionada::Imprimir(const Informe& informe) {
+  apuntes_.push_back({"imprimir", informe.título, "", ""});
+}
+
 std::vector<std::string> InterfazGuionada::Textos() const {
   std::vector<std::string> r;
   for (const auto& a : apuntes_)
@@ -106,6 +121,9 @@ std::string InterfazGuionada::Línea(const Apunte& a) {
   if (a.tipo == "estado") return "[estado] " + plano(a.texto);
   if (a.tipo == "archivo") return "[archivo] " + plano(a.título) + " | " + plano(a.respuesta);
   if (a.tipo == "ayuda") return "[ayuda] " + plano(a.texto);
+  if (a.tipo == "figura") return "[figura] " + plano(a.título) + " | " + plano(a.texto);
+  if (a.tipo == "portapapeles") return "[portapapeles] " + std::to_string(a.texto.size()) + " caracteres";
+  if (a.tipo == "imprimir") return "[imprimir] " + plano(a.título);
   return "[mensaje] " + plano(a.título) + " | " + plano(a.texto);
 }
 

@@ -14,7 +14,9 @@
 namespace lomaterra {
 
 struct Apunte {
-  std::string tipo;  // "mensaje", "pregunta", "pantalla", "estado", "archivo"
+  // "mensaje", "pregunta", "pantalla", "estado", "archivo", "ayuda", "figura" (título and control
+  // name of the figure), "portapapeles" (the text), "imprimir" (título of the report)
+  std::string tipo;
   std::string título;
   std::string texto;
   std::string respuesta;  // "S"/"N" for a question, the path for a file dialog
@@ -36,6 +38,9 @@ class InterfazGuionada : public Interfaz {
   std::optional<std::string> ElegirArchivoAbrir(const std::string& filtro, int índice) override;
   std::optional<std::string> ElegirArchivoGuardar(const std::string& filtro, int índice) override;
   void Ayuda(const std::string& archivo) override;
+  void MostrarFigura(const Figura& figura) override;
+  void CopiarAlPortapapeles(const std::string& texto) override;
+  void Imprimir(const Informe& informe) override;
 
   void Responder(const std::string& respuestas);  // appends answers
   void PorDefecto(bool sí) { porDefecto_ = sí; }

@@ -29,6 +29,8 @@ struct Trazo {
   Color colorRelleno;
   std::string leyenda;        // shown in the legend when not empty
   std::string nombre;         // what it is: "talud", "falla", "estrato 2", "freático", ...
+  std::string marcador;       // a mark at every vertex: "", "círculo", "cuadrado", "triángulo", "cruz"
+  bool sinLínea = false;      // the vertices alone (a scatter of points)
 };
 
 struct Marca {
@@ -44,6 +46,9 @@ struct Rótulo {
   std::string texto;
   Color color;
   double tamaño = 9.0;  // points
+  // Where the text stands against its point: "izquierda" (text to the right of the point),
+  // "centro" (centred above it), "derecha" (text to the left of it).
+  std::string alineación = "izquierda";
 };
 
 struct Flecha {
@@ -63,6 +68,8 @@ struct Figura {
   std::vector<Marca> marcas;
   std::vector<Rótulo> rótulos;
   std::vector<Flecha> flechas;
+  // Short lines shown under the title: method, factor of safety, scales.
+  std::vector<std::string> notas;
 };
 
 }  // namespace lomaterra

@@ -1,5 +1,5 @@
 // The drawing of the cross-section: surface, strata, phreatic line, failure surface and its points,
-// slices, loads, crack, centre and radius of an arc.
+// slices, loads, crack with its water, centre and radius of an arc.
 #pragma once
 
 #include "salida/figura.h"
@@ -8,6 +8,27 @@ namespace lomaterra {
 
 struct Proyecto;
 
+// Colours shared by the drawings, so that a legend reads the same everywhere.
+namespace colores {
+inline constexpr Color Talud{101, 67, 33};
+inline constexpr Color Estrato{150, 120, 80};
+inline constexpr Color Freático{20, 90, 220};
+inline constexpr Color Falla{200, 20, 20};
+inline constexpr Color Dovela{130, 130, 130};
+inline constexpr Color CargaUniforme{0, 130, 60};
+inline constexpr Color CargaPuntual{140, 0, 170};
+inline constexpr Color Grieta{0, 0, 0};
+inline constexpr Color Agua{0, 120, 255};
+inline constexpr Color Centro{90, 90, 90};
+}  // namespace colores
+
 Figura FiguraSección(const Proyecto& p);
+
+// The extent of the section (largest of its width and height), 1 when there is nothing to draw.
+double TamañoDeSección(const Proyecto& p);
+
+// Centre of the circular surface: the stored centre when the calculation left one, else the centre
+// above the chord through the two points at the stored radius. False when there is no arc.
+bool CentroDeArcoDeFalla(const Proyecto& p, double& xc, double& yc, double& radio);
 
 }  // namespace lomaterra

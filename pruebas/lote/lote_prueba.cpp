@@ -89,7 +89,10 @@ TEST_F(Lotes, UsoIncorrectoTerminaConDosSinCorrerNada) {
       {homogéneo, "MétodoFellenius", "--respuestas", "SX"},
       {homogéneo, "MétodoFellenius", "--por-defecto", "talvez"},
       {homogéneo, "MétodoFellenius", "--json"},
-      {homogéneo, "MétodoFellenius", "--pdf", "x.pdf"},
+      {homogéneo, "MétodoFellenius", "--pdf", "x.txt"},  // the report is a .pdf
+      {homogéneo, "MétodoFellenius", "--figura", "GráficoGeometría"},  // NOMBRE=ARCHIVO
+      {homogéneo, "MétodoFellenius", "--figura", "NoEsUnaFigura=a.png"},
+      {homogéneo, "MétodoFellenius", "--opción-inexistente", "x"},
       {homogéneo, "MétodoFellenius", "--guardar", guardado, "--guardar", guardado},
       {homogéneo, "MétodoQueNoExiste", "--guardar", guardado},
   };

@@ -1,0 +1,266 @@
+// Figures as data: the section holds every stored point of every table, the charts hold the slice
+// columns, the arc of the circular surface stands on its circle.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+#include "apoyo/apoyo.h"
+#include "proyecto/archivo.h"
+#include "proyecto/interfaz_guionada.h"
+#include "salida/caso_salida.h"
+#include "salida/resumen.h"
+#include "salida/graficos.h"
+#include "salida/seccion.h"
+
+namespace lomaterra {
+namespace {
+
+bool Contiene(const Figura& f, double x, double y) {
+  auto igual = [&](const PuntoFigura& q) {
+    return std::abs(q.x - x) < 1e-9 && std::abs(q.y - y) < 1e-9;
+  };
+  for (const auto& t : f.trazos)
+    for (const auto& q : t.puntos)
+      if (igual(q)) return true;
+  for (const auto& m : f.marcas)
+    if (igual(m.punto)) return true;
+  for (const auto& a : f.flechas)
+    if (igual(a.hasta)) return true;
+  return false;
+}
+
+const Trazo* Buscar(const Figura& f, const std::string& nombre) {
+  for (const auto& t : f.trazos)
+    if (t.nombre == nombre) return &t;
+  return nullptr;
+}
+
+class Figuras : public ::testing::Test {
+ protected:
+  Proyecto p = pruebas::CasoTresDovelas();
+};
+
+TEST_F(Figuras, LaSecciónContieneCadaPuntoGuardadoDeCadaTabla) {
+  // A crack whose lower point is the first point of the failure surface, with water in it.
+  p.GrietaTracción = {25, 12, 25, 10, 25, 11, 0.5};
+  const Figura f = FiguraSección(p);
+  EXPECT_EQ(f.tipo, Figura::Tipo::Dibujo);
+  auto tabla = [&](const TablaXY& t, long n, const char* qué) {
+    for (long i = 1; i <= n; ++i) EXPECT_TRUE(Contiene(f, t.X[i], t.Y[i])) << qué << " " << i;
+  };
+  tabla(p.CoordenadasTalud, p.NúmeroPuntosTalud, "talud");
+  tabla(p.CoordenadasFalla, p.NúmeroPuntosFalla, "falla");
+  tabla(p.CoordenadasFreático, p.NúmeroPuntosFreático, "freático");
+  for (long s = 1; s <= p.NúmeroEstratos; ++s)
+    for (long j = 1; j <= p.PuntosEstrato[s]; ++j)
+      EXPECT_TRUE(Contiene(f, p.XEstrato(s, j), p.YEstrato(s, j))) << "estrato";
+  const auto& d = p.TablaDovelas;
+  for (long i = 1; i <= p.NúmeroBordes; ++i) {
+    EXPECT_TRUE(Contiene(f, d.BordeX[i], d.BordeYFalla[i])) << "borde en la falla " << i;
+    EXPECT_TRUE(Contiene(f, d.BordeX[i], d.BordeYTalud[i])) << "borde en el talud " << i;
+  }
+  EXPECT_TRUE(Contiene(f, 21, 10));  // both ends of the uniform load
+  EXPECT_TRUE(Contiene(f, 28, 10));
+  EXPECT_TRUE(Contiene(f, 22, 10));  // the point load
+  EXPECT_TRUE(Contiene(f, 25, 12));  // the crack
+  EXPECT_TRUE(Contiene(f, 25, 11));  // its water level
+  ASSERT_NE(Buscar(f, "agua en la grieta"), nullptr);
+  // Each slice has its two edges drawn from the failure surface up to the surface.
+  for (long i = 1; i <= p.NúmeroBordes; ++i)
+    ASSERT_NE(Buscar(f, "borde " + std::to_string(i)), nullptr);
+}
+
+TEST_F(Figuras, LasCargasSeDibujanComoFlechasQueEmpujanElTalud) {
+  const Figura f = FiguraSección(p);
+  int uniformes = 0, puntuales = 0;
+  for (const auto& a : f.flechas) {
+    if (a.nombre == "carga uniforme 1") {
+      ++uniformes;
+      // qy = 2 pushes down: the head is below the tail, on the crest (Y = 10).
+      EXPECT_LT(a.hasta.y, a.desde.y);
+      EXPECT_DOUBLE_EQ(a.hasta.y, 10);
+      EXPECT_GE(a.hasta.x, 21);
+      EXPECT_LE(a.hasta.x, 28);
+    }
+    if (a.nombre == "carga puntual 1") {
+      ++puntuales;
+      EXPECT_DOUBLE_EQ(a.hasta.x, 22);
+      EXPECT_DOUBLE_EQ(a.desde.x, 22);
+      EXPECT_GT(a.desde.y, a.hasta.y);
+    }
+  }
+  EXPECT_GE(uniformes, 2);
+  EXPECT_EQ(puntuales, 1);
+  // Loads whose flag has been cleared (a New keeps the counts) are not drawn.
+  p.CargasUniformesDadas = false;
+  p.CargasPuntualesDadas = false;
+  EXPECT_TRUE(FiguraSección(p).flechas.empty());
+}
+
+TEST_F(Figuras, ElArcoCircularPasaPorSusPuntosConElCentroSobreLaCuerda) {
+  // P1 = (20, 10), P2 = (0, 0), R = 15: half chord √125, distance from the middle (10, 5) to the
+  // centre √(225 − 125) = 10 along the upward normal (−1, 2)/√5: centre (10 − 2√5, 5 + 4√5).
+  pruebas::PonerPuntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{20, 10}, {0, 0}});
+  p.TramoFalla.PuntoFinal[1] = 2;
+  p.TramoFalla.TipoUnión[1] = "C";
+  p.ParámetrosIniciales.Radio = 15;
+  p.NúmeroBordes = 0;  // no slices yet: the arc is drawn from its centre
+  double xc, yc, r;
+  ASSERT_TRUE(CentroDeArcoDeFalla(p, xc, yc, r));
+  EXPECT_NEAR(xc, 10 - 2 * std::sqrt(5.0), 1e-9);
+  EXPECT_NEAR(yc, 5 + 4 * std::sqrt(5.0), 1e-9);
+  const Figura f = FiguraSección(p);
+  const Trazo* falla = Buscar(f, "falla");
+  ASSERT_NE(falla, nullptr);
+  ASSERT_GT(falla->puntos.size(), 10u);
+  for (const auto& q : falla->puntos) {
+    EXPECT_NEAR(std::hypot(q.x - xc, q.y - yc), 15, 1e-9);
+    EXPECT_LT(q.y, yc);  // the lower side of the circle
+  }
+  EXPECT_TRUE(Contiene(f, xc, yc));  // the centre is marked
+  bool rótulo = false;
+  for (const auto& t : f.rótulos) rótulo |= t.texto == "R = 15.00 m";
+  EXPECT_TRUE(rótulo);
+  // A radius shorter than half the chord gives no arc: the points are joined straight.
+  p.ParámetrosIniciales.Radio = 5;
+  EXPECT_FALSE(CentroDeArcoDeFalla(p, xc, yc, r));
+}
+
+struct CasoGráfico {
+  const char* nombre;
+  std::vector<Tabla<double> TablaDeDovelas::*> columnas;
+};
+
+TEST_F(Figuras, CadaSerieDeUnGráficoEsUnaColumnaDeLasDovelasEnAbscisaCreciente) {
+  using D = TablaDeDovelas;
+  // Principal stresses as a rock method would leave them.
+  auto& d = p.TablaDovelas;
+  d.EsfuerzoPrincipalMayor.Redimensionar(3);
+  d.EsfuerzoPrincipalMenor.Redimensionar(3);
+  const double s1[] = {0, 14, 30, 21}, s3[] = {0, 2, 5, 3.5};
+  for (long i = 1; i <= 3; ++i) {
+    d.EsfuerzoPrincipalMayor[i] = s1[i];
+    d.EsfuerzoPrincipalMenor[i] = s3[i];
+  }
+  const std::vector<CasoGráfico> casos{
+      {"GráficoEsfuerzoPrincipalMenor", {&D::EsfuerzoPrincipalMenor}},
+      {"GráficoEsfuerzoPrincipalMayor", {&D::EsfuerzoPrincipalMayor}},
+      {"GráficoEsfuerzoNormalesTotales", {&D::EsfuerzoNormalTotal}},
+      {"GráficoEsfuerzoNormalesEfectivos", {&D::EsfuerzoNormalEfectivo}},
+      {"GráficoEsfuerzosTangencialesMovilizados", {&D::EsfuerzoTangencial}},
+      {"GráficoEsfuerzosNormalesTotalesEfectivosTangenciales",
+       {&D::EsfuerzoNormalTotal, &D::EsfuerzoNormalEfectivo, &D::EsfuerzoTangencial}},
+      {"GráficoDeEsfuerzosPrincipales", {&D::EsfuerzoPrincipalMayor, &D::EsfuerzoPrincipalMenor}},
+  };
+  // Slice middles: X = 22.5, 17.5, 11.5; ascending X takes the slices 3, 2, 1.
+  const long orden[] = {3, 2, 1};
+  for (const auto& c : casos) {
+    const Figura f = FiguraGráfico(p, c.nombre);
+    SCOPED_TRACE(c.nombre);
+    EXPECT_EQ(f.tipo, Figura::Tipo::Gráfico);
+    EXPECT_EQ(f.nombre, c.nombre);
+    EXPECT_FALSE(f.título.empty());
+    EXPECT_EQ(f.ejeX, "Abscisa X del centro de la base (m)");
+    EXPECT_NE(f.ejeY.find("(ton/m2)"), std::string::npos);
+    ASSERT_EQ(f.trazos.size(), c.columnas.size());
+    for (std::size_t k = 0; k < c.columnas.size(); ++k) {
+      const auto& serie = f.trazos[k];
+      EXPECT_FALSE(serie.leyenda.empty());
+      ASSERT_EQ(serie.puntos.size(), 3u);
+      for (std::size_t j = 0; j < 3; ++j) {
+        EXPECT_DOUBLE_EQ(serie.puntos[j].x, d.XMedio[orden[j]]);
+        EXPECT_DOUBLE_EQ(serie.puntos[j].y, (d.*(c.columnas[k]))[orden[j]]);
+      }
+    }
+  }
+}
+
+TEST_F(Figuras, LaResistenciaAlCorteEsCMasSigmaEfectivoPorTanFi) {
+  const Figura f = FiguraGráfico(p, "GráficoResistenciaAlCorteVsEsfuerzoNormal");
+  EXPECT_EQ(f.ejeX, "Esfuerzo normal efectivo σ' (ton/m2)");
+  EXPECT_EQ(f.ejeY, "Esfuerzo cortante τ (ton/m2)");
+  const Trazo* r = Buscar(f, "resistencia");
+  const Trazo* m = Buscar(f, "movilizado");
+  ASSERT_TRUE(r && m);
+  // σ' sorted: 4, 6.5, 9; c = 1.5, tan 30° = 1/√3; the mobilised shear is the strength over F
+  // = 1.5.
+  const double sn[] = {4, 6.5, 9};
+  for (int k = 0; k < 3; ++k) {
+    const double tf = 1.5 + sn[k] / std::sqrt(3.0);
+    EXPECT_DOUBLE_EQ(r->puntos[k].x, sn[k]);
+    EXPECT_NEAR(r->puntos[k].y, tf, 1e-12);
+    EXPECT_NEAR(m->puntos[k].y, tf / 1.5, 1e-12);
+  }
+  // One Mohr-Coulomb line for the one material, from σ' = 0 to the largest σ'.
+  const Trazo* e = Buscar(f, "envolvente 1");
+  ASSERT_NE(e, nullptr);
+  EXPECT_EQ(e->leyenda, "c = 1.50 ton/m2, φ = 30.0°");
+  EXPECT_NEAR(e->puntos.back().y, 1.5 + 9 / std::sqrt(3.0), 1e-12);
+}
+
+TEST_F(Figuras, LosDiagramasDeEsfuerzosSeDibujanAEscalaPerpendicularesALaBase) {
+  const Figura f = FiguraGráfico(p, "GráficoGeometríaAdaptadaEscalaEsfuerzos");
+  const Trazo* normal = Buscar(f, "diagrama σ'");
+  ASSERT_NE(normal, nullptr);
+  // The section is 30 m wide: the largest stress (σ' = 9) is drawn 0.15 × 30 = 4.5 m long, so
+  // 1 m stands for 2 ton/m2. Slice 2 (base from (20, 6) to (15, 2), σ' = 9): its block ends 4.5 m
+  // from the base along the outward normal (sin α, −cos α), α = atan(4/5).
+  const double a = std::atan2(4.0, 5.0);
+  const PuntoFigura esperado{20 + 4.5 * std::sin(a), 6 - 4.5 * std::cos(a)};
+  bool hallado = false;
+  for (const auto& q : normal->puntos)
+    hallado |= std::abs(q.x - esperado.x) < 1e-9 && std::abs(q.y - esperado.y) < 1e-9;
+  EXPECT_TRUE(hallado);
+  ASSERT_EQ(f.notas.size(), 2u);
+  EXPECT_EQ(f.notas[0], "Método: Bishop A. W.    Factor de seguridad: 1.500");
+  EXPECT_EQ(f.notas[1],
+            "Escala de esfuerzos: 1 m del dibujo representa 2.00 ton/m2; máximo 9.00 ton/m2");
+}
+
+TEST_F(Figuras, UnNombreQueNoEsDelMenúDaUnaFiguraVacía) {
+  EXPECT_TRUE(FiguraGráfico(p, "GráficoInexistente").trazos.empty());
+  EXPECT_EQ(NombresDeGráficos().size(), 10u);
+}
+
+}  // namespace
+}  // namespace lomaterra
+
+namespace lomaterra {
+namespace {
+
+// A project file keeps the slice middles, widths and stresses, not the edges: the output rebuilds
+// them and everything can be shown and printed after Open without calculating again.
+TEST(TrasAbrir, LasDovelasSeRehacenDeSusMediosYAnchos) {
+  Proyecto guardado = pruebas::CasoTresDovelas();
+  const std::string ruta = pruebas::CarpetaTemporal() + "/tres.cod";
+  InterfazGuionada ui("S", true);
+  // Saving stores the coordinate panel into the table in work first: the panel holds the surface.
+  CargarPanelCoordenadas(guardado, 1, 1);
+  ASSERT_TRUE(GuardarProyecto(guardado, ruta, ui));
+  Proyecto p;
+  ASSERT_TRUE(LeerProyecto(p, ruta, ui));
+  ASSERT_EQ(p.TablaDovelas.BordeX.Tamaño(), 0);
+  ASSERT_TRUE(HayResultados(p));
+  const BordesDeDovelas b = Bordes(p);
+  EXPECT_FALSE(b.guardados);
+  // Edges: middle ± half width: 25, 20, 15, 8. The ends on the end points of the failure surface,
+  // (25, 10) and (8, 0); the inner ones on the line between middles: at X = 20 between (22.5, 8)
+  // and (17.5, 4) → 6; at X = 15 between (17.5, 4) and (11.5, 1) → 2.75. Surface from its table.
+  const std::vector<double> x{0, 25, 20, 15, 8}, yf{0, 10, 6, 2.75, 0}, yt{0, 10, 10, 35.0 / 6, 0};
+  for (std::size_t i = 1; i <= 4; ++i) {
+    EXPECT_NEAR(b.x[i], x[i], 1e-9) << i;
+    EXPECT_NEAR(b.yFalla[i], yf[i], 1e-9) << i;
+    EXPECT_NEAR(b.yTalud[i], yt[i], 1e-9) << i;
+  }
+  const Figura f = FiguraSección(p);
+  for (long i = 1; i <= 4; ++i) EXPECT_TRUE(Contiene(f, x[i], yt[i])) << i;
+  // The failure surface keeps its own points, not the rebuilt edges.
+  const Trazo* falla = Buscar(f, "falla");
+  ASSERT_NE(falla, nullptr);
+  EXPECT_EQ(falla->puntos.size(), 3u);
+  EXPECT_FALSE(FiguraSecciónConEsfuerzos(p).trazos.empty());
+}
+
+}  // namespace
+}  // namespace lomaterra

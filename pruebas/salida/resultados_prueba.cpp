@@ -1,0 +1,376 @@
+// The presentation commands: their gates word for word, the result screen and its clipboard text,
+// the anchor screens against a hand calculation, and the print commands through the port.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "pantallas/anclajes.h"
+#include "pantallas/resultados.h"
+#include "proyecto/comandos.h"
+#include "proyecto/interfaz_guionada.h"
+#include "salida/caso_salida.h"
+#include "salida/diseno_anclajes.h"
+
+namespace lomaterra {
+namespace {
+
+// Runs a command by its menu name, as the menu does.
+void Ejecutar(const std::string& nombre, Proyecto& p, Interfaz& ui) {
+  const auto árbol = ÁrbolDeMenús();
+  const EntradaMenú* e = BuscarEntrada(árbol, nombre);
+  ASSERT_NE(e, nullptr) << nombre;
+  ASSERT_TRUE(static_cast<bool>(e->acción)) << nombre << " no está enlazada";
+  EjecutarComando(e->acción, p, ui);
+}
+
+std::vector<std::string> Líneas(const InterfazGuionada& ui) {
+  std::vector<std::string> r;
+  for (const auto& a : ui.Transcripción()) r.push_back(InterfazGuionada::Línea(a));
+  return r;
+}
+
+const std::vector<std::string> kÓrdenesDeResultados{
+    "ResultadosCálculoSuelos",
+    "GráficoEsfuerzoPrincipalMenor",
+    "GráficoEsfuerzoPrincipalMayor",
+    "GráficoEsfuerzoNormalesTotales",
+    "GráficoEsfuerzoNormalesEfectivos",
+    "GráficoEsfuerzosTangencialesMovilizados",
+    "GráficoResistenciaAlCorteVsEsfuerzoNormal",
+    "GráficoEsfuerzosNormalesTotalesEfectivosTangenciales",
+    "GráficoDeEsfuerzosPrincipales",
+    "GráficoGeometríaAdaptadaEscalaEsfuerzos",
+    "ImprimirResultadosAnálisisMétodosEquilibrioLímites",
+};
+
+class Presentación : public ::testing::Test {
+ protected:
+  Proyecto p = pruebas::CasoTresDovelas();
+  InterfazGuionada ui;
+};
+
+TEST_F(Presentación, SinTipoDeAnálisisOConElementosFinitosNadaSePresenta) {
+  for (const char* tipo : {"", "F"}) {
+    p.TipoDeAnálisis = tipo;
+    std::vector<std::string> órdenes = kÓrdenesDeResultados;
+    órdenes.push_back("ResultadosCálculoRocas");
+    órdenes.push_back("GráficoGeometría");
+    for (const auto& o : órdenes) {
+      ui.Olvidar();
+      Ejecutar(o, p, ui);
+      const std::string esperado =
+          *tipo == 0 ? "[mensaje]  | Seleccione en la pantalla principal la opción <T> ó <F>"
+                     : "[mensaje]  | Ud. está trabajando con elementos finitos";
+      EXPECT_EQ(Líneas(ui), std::vector<std::string>{esperado}) << o;
+    }
+  }
+}
+
+TEST_F(Presentación, CadaPantallaDeResultadosEsParaSuMaterial) {
+  p.TipoDeMaterial = "S";
+  Ejecutar("ResultadosCálculoRocas", p, ui);
+  EXPECT_EQ(Líneas(ui), std::vector<std::string>{
+                            "[mensaje] Esta presentación es para roca: | Ud ha seleccionado la "
+                            "opción 'suelos' en los parámetros iniciales  "});
+  ui.Olvidar();
+  p.TipoDeMaterial = "R";
+  Ejecutar("ResultadosCálculoSuelos", p, ui);
+  EXPECT_EQ(Líneas(ui), std::vector<std::string>{
+                            "[mensaje] Esta presentación es para SUELOS: | Ud ha seleccionado la "
+                            "opción 'ROCA' en los parámetros iniciales  "});
+}
+
+TEST_F(Presentación, SinCálculoCadaOrdenDiceAQuéMenúIr) {
+  // A project whose slices were never calculated: no factor of safety in the history.
+  p.NúmeroIteraciones = 0;
+  for (const auto& o : kÓrdenesDeResultados) {
+    ui.Olvidar();
+    Ejecutar(o, p, ui);
+    EXPECT_EQ(Líneas(ui),
+              std::vector<std::string>{
+                  "[mensaje] Resultados del cálculo | No hay resultados de un cálculo por "
+                  "equilibrio límite. "
+                  "Vaya al menú 'Equilibrio límite' y ordene 'Calcular factor de seguridad'."})
+        << o;
+  }
+}
+
+TEST_F(Presentación, LosEsfuerzosPrincipalesSoloSiElMétodoLosDio) {
+  for (const char* o : {"GráficoEsfuerzoPrincipalMenor", "GráficoEsfuerzoPrincipalMayor",
+                        "GráficoDeEsfuerzosPrincipales"}) {
+    ui.Olvidar();
+    Ejecutar(o, p, ui);
+    EXPECT_EQ(Líneas(ui),
+              std::vector<std::string>{"[mensaje] Esfuerzos principales | El cálculo realizado no "
+                                       "da los esfuerzos principales: los dan "
+                                       "el método de Dov Leshchinsky y los métodos para rocas. "
+                                       "Vaya al menú 'Equilibrio límite'."})
+        << o;
+  }
+}
+
+TEST_F(Presentación, CadaGráficoSeMuestraPorElPuertoConSuTítulo) {
+  p.TablaDovelas.EsfuerzoPrincipalMayor.Redimensionar(3);
+  p.TablaDovelas.EsfuerzoPrincipalMenor.Redimensionar(3);
+  p.TablaDovelas.EsfuerzoPrincipalMayor[2] = 10;
+  const std::vector<std::pair<std::string, std::string>> casos{
+      {"GráficoEsfuerzoPrincipalMenor", "Esfuerzo principal menor en la base de las dovelas"},
+      {"GráficoEsfuerzoPrincipalMayor", "Esfuerzo principal mayor en la base de las dovelas"},
+      {"GráficoEsfuerzoNormalesTotales", "Esfuerzos normales totales en la base de las dovelas"},
+      {"GráficoEsfuerzoNormalesEfectivos",
+       "Esfuerzos normales efectivos en la base de las dovelas"},
+      {"GráficoEsfuerzosTangencialesMovilizados",
+       "Esfuerzos tangenciales movilizados en la base de las dovelas"},
+      {"GráficoResistenciaAlCorteVsEsfuerzoNormal",
+       "Resistencia al corte y esfuerzo tangencial movilizado contra esfuerzo normal efectivo"},
+      {"GráficoEsfuerzosNormalesTotalesEfectivosTangenciales",
+       "Esfuerzos normales totales, efectivos y tangenciales en la base de las dovelas"},
+      {"GráficoDeEsfuerzosPrincipales", "Esfuerzos principales contra abscisas"},
+      {"GráficoGeometríaAdaptadaEscalaEsfuerzos",
+       "Geometría del talud con los esfuerzos en la superficie de falla"},
+      {"GráficoGeometría", "Geometría del talud"},
+  };
+  for (const auto& [orden, título] : casos) {
+    ui.Olvidar();
+    Ejecutar(orden, p, ui);
+    EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[figura] " + título + " | " + orden});
+  }
+}
+
+TEST_F(Presentación, LaGeometríaSeDibujaSinCálculoPeroNoSinTalud) {
+  p.NúmeroIteraciones = 0;
+  Ejecutar("GráficoGeometría", p, ui);
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{"[figura] Geometría del talud | GráficoGeometría"});
+  ui.Olvidar();
+  p.NúmeroPuntosTalud = 0;
+  Ejecutar("GráficoGeometría", p, ui);
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{
+                "[mensaje] Geometría del talud | No hay coordenadas del talud para dibujar. "
+                "Vaya al menú 'Coordenadas' y entre las del talud."});
+}
+
+TEST_F(Presentación, LosInformesSeImprimenPorElPuerto) {
+  Ejecutar("ImprimirInformaciónDadaAlPrograma", p, ui);
+  Ejecutar("ImprimirResultadosAnálisisMétodosEquilibrioLímites", p, ui);
+  EXPECT_EQ(Líneas(ui),
+            (std::vector<std::string>{"[imprimir] Información dada al programa",
+                                      "[imprimir] Resultados del análisis por equilibrio límite"}));
+  ui.Olvidar();
+  p.InformaciónDada = false;
+  Ejecutar("ImprimirInformaciónDadaAlPrograma", p, ui);
+  EXPECT_EQ(Líneas(ui),
+            std::vector<std::string>{"[mensaje] Información requerida | Debe dar la información "
+                                     "del proyecto. Entre al menú 'Archivo'"});
+}
+
+TEST_F(Presentación, LaPantallaDeResultadosMuestraMétodoFactorHistoriaDovelasYSumas) {
+  PantallaResultados* abierta = nullptr;
+  std::string copiado;
+  ui.GuionPantalla("ResultadosEquilibrioLímite", [&](Pantalla& pantalla, Interfaz& i) {
+    abierta = static_cast<PantallaResultados*>(&pantalla);
+    EXPECT_EQ(pantalla.título, "Resultados del cálculo para suelos");
+    EXPECT_EQ(pantalla.texto("TextoMétodo"), "Bishop A. W.");
+    EXPECT_EQ(pantalla.texto("TextoFactorDeSeguridad"), "1.500");
+    EXPECT_EQ(pantalla.texto("TextoNúmeroDovelas"), "3");
+    const auto& h = pantalla.lista("ListaIteraciones");
+    EXPECT_EQ(h.columnas, (std::vector<std::string>{"Iteración", "Factor de seguridad"}));
+    ASSERT_EQ(h.filas.size(), 3u);
+    EXPECT_EQ(h.filas[2], (std::vector<std::string>{"3", "1.500"}));
+    const auto& d = pantalla.lista("ListaDovelas");
+    ASSERT_EQ(d.filas.size(), 3u);
+    // Every caption carries its unit; the stresses of slice 2 as they were filled.
+    auto columna = [&](const std::string& título) {
+      for (std::size_t j = 0; j < d.columnas.size(); ++j)
+        if (d.columnas[j] == título) return static_cast<long>(j);
+      ADD_FAILURE() << "falta la columna " << título;
+      return 0L;
+    };
+    EXPECT_EQ(d.filas[1][columna("Esfuerzo normal total σ (ton/m2)")], "12.00");
+    EXPECT_EQ(d.filas[1][columna("Esfuerzo normal efectivo σ' (ton/m2)")], "9.00");
+    EXPECT_EQ(d.filas[1][columna("Esfuerzo tangencial movilizado τ (ton/m2)")],
+              "4.46");  // (1.5 + 9/√3)/1.5 = 4.464
+    EXPECT_EQ(d.filas[1][columna("Presión de poros u (ton/m2)")], "3.00");
+    EXPECT_EQ(d.filas[1][columna("Ángulo base (°)")], "38.66");   // atan(4/5)
+    EXPECT_EQ(d.filas[2][columna("Longitud base (m)")], "7.28");  // √53
+    for (const auto& c : d.columnas)
+      if (c != "Dovela") {
+        EXPECT_NE(c.find('('), std::string::npos) << c;
+      }
+    // A soil calculation without principal stresses shows none.
+    for (const auto& c : d.columnas) EXPECT_EQ(c.find("principal"), std::string::npos);
+    const auto& s = pantalla.lista("ListaSumas");
+    ASSERT_EQ(s.filas.size(), 3u);
+    EXPECT_EQ(s.filas[0],
+              (std::vector<std::string>{"Suma de esfuerzos tangenciales (ton/m2)", "10.51"}));
+    EXPECT_EQ(s.filas[1],
+              (std::vector<std::string>{"Suma de esfuerzos normales totales (ton/m2)", "25.00"}));
+    pantalla.Pulsar("BotónCopiar", i);
+    pantalla.Pulsar("BotónCerrar", i);
+  });
+  Ejecutar("ResultadosCálculoSuelos", p, ui);
+  ASSERT_NE(abierta, nullptr);
+  for (const auto& a : ui.Transcripción())
+    if (a.tipo == "portapapeles") copiado = a.texto;
+  // Tab-separated: the method, the factor, a blank line, the slice table with its captions.
+  ASSERT_EQ(
+      copiado.rfind(
+          "Método\tBishop A. W.\nFactor de seguridad\t1.500\n\nDovela\tX medio (m)\tAncho (m)\t",
+          0),
+      0u)
+      << copiado;
+  EXPECT_NE(copiado.find("\n2\t17.50\t5.00\t"), std::string::npos);
+  EXPECT_NE(copiado.find("Suma de esfuerzos normales efectivos (ton/m2)\t19.50\n"),
+            std::string::npos);
+}
+
+TEST_F(Presentación, EnRocaSeMuestranLosParámetrosDelMacizoLosPrincipalesYLosMultiplicadores) {
+  p.TipoDeMaterial = "R";
+  p.ParámetrosIniciales.MétodoDeCálculo = 1;
+  auto& d = p.TablaDovelas;
+  for (auto* t : {&d.m_Base, &d.s_Base, &d.a_Base, &d.C_SimpleBase, &d.EsfuerzoPrincipalMayor,
+                  &d.EsfuerzoPrincipalMenor})
+    t->Redimensionar(3);
+  for (long i = 1; i <= 3; ++i) {
+    d.m_Base[i] = 1.2;
+    d.s_Base[i] = 0.0004;
+    d.a_Base[i] = 0.51;
+    d.C_SimpleBase[i] = 250;
+    d.EsfuerzoPrincipalMayor[i] = 20 + i;
+    d.EsfuerzoPrincipalMenor[i] = i;
+  }
+  p.SumaPrincipalesMayores = 66;
+  p.SumaPrincipalesMenores = 6;
+  p.HistoriaIteraciones.Multiplicador1[3] = 0.25;
+  p.HistoriaIteraciones.Multiplicador2[3] = -0.5;
+  ui.GuionPantalla("ResultadosEquilibrioLímite", [&](Pantalla& s, Interfaz&) {
+    EXPECT_EQ(s.título, "Resultados del cálculo para rocas");
+    EXPECT_EQ(s.texto("TextoMétodo"), "Dov Leshchinsky - Ching y Hoek - Brown (m, s)");
+    const auto& h = s.lista("ListaIteraciones");
+    EXPECT_EQ(h.columnas, (std::vector<std::string>{"Iteración", "Multiplicador µ1",
+                                                    "Multiplicador µ2", "Factor de seguridad"}));
+    EXPECT_EQ(h.filas.back(), (std::vector<std::string>{"3", "0.250000", "-0.500000", "1.500"}));
+    const auto& c = s.lista("ListaDovelas").columnas;
+    for (const char* t :
+         {"m macizo", "s macizo", "a macizo", "σci (kg/cm2)",
+          "Esfuerzo principal mayor σ1 (ton/m2)", "Esfuerzo principal menor σ3 (ton/m2)"})
+      EXPECT_NE(std::find(c.begin(), c.end(), t), c.end()) << t;
+    // Without instantaneous parameters the rock shows no cohesion and friction of its own.
+    EXPECT_EQ(std::find(c.begin(), c.end(), "Cohesión c (ton/m2)"), c.end());
+    const auto& sumas = s.lista("ListaSumas").filas;
+    ASSERT_GE(sumas.size(), 5u);
+    EXPECT_EQ(sumas[3], (std::vector<std::string>{"Suma de esfuerzos principales mayores (ton/m2)",
+                                                  "66.00"}));
+    EXPECT_EQ(sumas[4],
+              (std::vector<std::string>{"Suma de esfuerzos principales menores (ton/m2)", "6.00"}));
+  });
+  Ejecutar("ResultadosCálculoRocas", p, ui);
+  ASSERT_EQ(ui.Transcripción().size(), 1u);
+  EXPECT_EQ(ui.Transcripción()[0].tipo, "pantalla");
+}
+
+// Hand calculation of the anchors for the three slices.
+//   bases: l1 = l2 = √41 = 6.4031, l3 = √53 = 7.2801 m
+//   τ = (1.5 + σ'/√3)/1.5 = 2.5396, 4.4641, 3.5019 ton/m2
+//   D = Σ τ l = 70.339 ton/m; R = 1.5 D = 105.509 ton/m
+//   chord from (25, 10) to (8, 0): ψ = atan(10/17) = 30.466°; θ = 20°: ψ + θ = 50.466°
+//   F' = 2: F'D − R = 35.170; T activo = 35.170 / (2 cos 50.466° + sin 50.466°/√3) = 20.467 ton/m
+//                           T pasivo = 35.170 / (cos 50.466° + sin 50.466°/√3) = 32.510 ton/m
+//   one anchor, 4 strands of 15.2 mm at 19000 kg/cm2: area 1.81458 cm2,
+//   P = 0.6 × 4 × 1.81458 × 19000 / 1000 = 82.745 ton
+//   spacing: 82.745 / 20.467 = 4.043 m (active), 82.745 / 32.510 = 2.545 m (passive)
+TEST(Anclajes, ElCálculoCoincideConElCálculoAMano) {
+  Proyecto p = pruebas::CasoTresDovelas();
+  DatosAnclajes a;
+  a.FSConAnclaje = 2;
+  a.InclinaciónAnclajes = 20;
+  a.DiámetroAnclajes = 15.2;
+  a.EsfuerzoRoturaAnclaje = 19000;
+  a.NúmeroGuayas = 4;
+  const CálculoAnclajes r = CalcularAnclajes(p, a);
+  ASSERT_TRUE(r.válido) << r.error;
+  EXPECT_NEAR(r.FuerzaMovilizada, 70.339, 1e-3);
+  EXPECT_NEAR(r.ResistenciaDisponible, 105.509, 1e-3);
+  EXPECT_NEAR(r.InclinaciónFalla, 30.466, 1e-3);
+  EXPECT_NEAR(r.TanFricciónMedia, 0.57735, 1e-5);
+  EXPECT_NEAR(r.FuerzaActivo, 20.467, 1e-3);
+  EXPECT_NEAR(r.FuerzaPasivo, 32.510, 1e-3);
+  EXPECT_NEAR(r.CargaPorAnclaje, 82.745, 1e-3);
+  EXPECT_NEAR(r.SeparaciónActivo, 4.043, 1e-3);
+  EXPECT_NEAR(r.SeparaciónPasivo, 2.545, 1e-3);
+  // Putting the active force back into the formula gives the target factor.
+  const double psiTheta = (r.InclinaciónFalla + 20) * std::atan(1.0) / 45;
+  EXPECT_NEAR((r.ResistenciaDisponible + r.FuerzaActivo * std::sin(psiTheta) * r.TanFricciónMedia) /
+                  (r.FuerzaMovilizada - r.FuerzaActivo * std::cos(psiTheta)),
+              2.0, 1e-12);
+}
+
+class PantallaDeAnclajes : public ::testing::Test {
+ protected:
+  Proyecto p = pruebas::CasoTresDovelas();
+  InterfazGuionada ui;
+  void Llenar(Pantalla& s, const std::string& fs, const std::string& inclinación = "20") {
+    s.texto("TextoFSConAnclaje") = fs;
+    s.texto("TextoInclinaciónAnclajes") = inclinación;
+    s.texto("TextoDiámetroAnclajes") = "15.2";
+    s.texto("TextoEsfuerzoRoturaAnclaje") = "19000";
+    s.texto("TextoNúmeroGuayas") = "4";
+  }
+};
+
+TEST_F(PantallaDeAnclajes, AceptarGuardaLosDatosYLasSeparaciones) {
+  ui.GuionPantalla("Form12", [&](Pantalla& s, Interfaz& i) {
+    Llenar(s, "2");
+    s.Pulsar("BotónCalcular", i);
+    EXPECT_EQ(s.texto("TextoSeparaciónAnclajesActivo"), "4.04");
+    EXPECT_EQ(s.texto("TextoSeparaciónAnclajesPasivo"), "2.55");
+    EXPECT_FALSE(s.lista("ListaCálculoAnclajes").filas.empty());
+    EXPECT_EQ(p.Anclajes.FSConAnclaje, 0);  // nothing is stored before Aceptar
+    s.Pulsar("BotónAceptar", i);
+  });
+  p.DatosGuardados = true;
+  AbrirAnclajes(p, ui, false);
+  EXPECT_EQ(p.Anclajes.FSConAnclaje, 2);
+  EXPECT_EQ(p.Anclajes.InclinaciónAnclajes, 20);
+  EXPECT_EQ(p.Anclajes.NúmeroGuayas, 4);
+  EXPECT_NEAR(p.Anclajes.SeparaciónAnclajesActivo, 4.043, 1e-3);
+  EXPECT_NEAR(p.Anclajes.SeparaciónAnclajesPasivo, 2.545, 1e-3);
+  EXPECT_FALSE(p.DatosGuardados);
+  EXPECT_TRUE(ui.Textos().empty());
+}
+
+TEST_F(PantallaDeAnclajes, LasComprobacionesHablanEnOrdenYNoGuardanNada) {
+  struct Caso {
+    std::string fs, inclinación, mensaje;
+  };
+  const std::vector<Caso> casos{
+      {"dos", "20", "Debe introducir un número en Factor de seguridad buscado"},
+      {"2", "", "Debe introducir un número en Inclinación de los anclajes bajo la horizontal (°)"},
+      {"0", "20", "El factor de seguridad buscado debe ser mayor que cero."},
+      {"2", "95",
+       "La inclinación de los anclajes debe estar entre 0 y 90 grados bajo la horizontal."},
+      {"1.2", "20",
+       "El factor de seguridad del cálculo (1.500) ya alcanza el factor buscado: no se necesitan "
+       "anclajes."},
+  };
+  for (const auto& c : casos) {
+    ui.Olvidar();
+    ui.GuionPantalla("Form14", [&](Pantalla& s, Interfaz& i) {
+      Llenar(s, c.fs, c.inclinación);
+      s.Pulsar("BotónAceptar", i);
+      EXPECT_FALSE(s.cerrada);  // the screen stays open for a correction
+      s.Pulsar("BotónCancelar", i);
+    });
+    AbrirAnclajes(p, ui, true);
+    EXPECT_EQ(ui.Textos(), std::vector<std::string>{c.mensaje});
+    EXPECT_EQ(p.Anclajes.FSConAnclaje, 0);
+    EXPECT_EQ(p.Anclajes.SeparaciónAnclajesActivo, 0);
+  }
+}
+
+}  // namespace
+}  // namespace lomaterra
