@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "ayuda_qt.h"
+#include "salida_figura_qt.h"
 #include "vista_pantalla.h"
 
 namespace lomaterra {
@@ -234,6 +235,30 @@ void InterfazQt::AcercaDe(const std::string& título, const std::string& texto) 
   if (!QApplication::windowIcon().isNull())
     caja->setIconPixmap(QApplication::windowIcon().pixmap(64, 64));
   caja->exec();
+}
+
+void InterfazQt::MostrarFigura(const Figura& figura) {
+  if (sustituto_) {
+    sustituto_->MostrarFigura(figura);
+    return;
+  }
+  MostrarFiguraQt(Padre(), figura);
+}
+
+void InterfazQt::CopiarAlPortapapeles(const std::string& texto) {
+  if (sustituto_) {
+    sustituto_->CopiarAlPortapapeles(texto);
+    return;
+  }
+  CopiarAlPortapapelesQt(texto);
+}
+
+void InterfazQt::Imprimir(const Informe& informe) {
+  if (sustituto_) {
+    sustituto_->Imprimir(informe);
+    return;
+  }
+  ImprimirInformeQt(Padre(), informe);
 }
 
 }  // namespace lomaterra

@@ -47,6 +47,9 @@ class InterfazQt : public Interfaz {
   std::optional<std::string> ElegirArchivoGuardar(const std::string& filtro, int índice) override;
   void Ayuda(const std::string& archivo) override;
   void AcercaDe(const std::string& título, const std::string& texto) override;
+  void MostrarFigura(const Figura& figura) override;
+  void CopiarAlPortapapeles(const std::string& texto) override;
+  void Imprimir(const Informe& informe) override;
 
   void FijarVentana(QWidget* ventana) { ventana_ = ventana; }
   // Where the status texts go (the main window's status line).
