@@ -62,6 +62,8 @@ std::string VistaPantalla::Firma() const {
 void VistaPantalla::Construir() {
   if (cuerpo_) {
     diseño_->removeWidget(cuerpo_);
+    // Out of sight at once: the old body is only deleted when the event loop comes round again.
+    cuerpo_->hide();
     cuerpo_->deleteLater();
   }
   cajas_.clear();

@@ -27,6 +27,9 @@
 #include "pantallas/comandos_archivo.h"
 #include "proyecto/comandos.h"
 #include "proyecto/interfaz_guionada.h"
+#include "pantallas/anclajes.h"
+#include "pintor.h"
+#include "salida/graficos.h"
 #include "ventana_principal_qt.h"
 #include "vista_pantalla.h"
 
@@ -229,8 +232,26 @@ int main(int argc, char** argv) {
     VentanaPrincipalQt ventana(p);
     InterfazGuionada guion("N");
     ventana.interfaz().Sustituto(&guion);
-    if (ventana.EjecutarMenú("MétodoFellenius"))
+    if (ventana.EjecutarMenú("MétodoFellenius")) {
       Guardar(ventana, "ventana_principal_tras_fellenius");
+      // Every figure of the chart menu on that calculation, as the export buttons write them.
+      for (const std::string& nombre : NombresDeGráficos()) {
+        QString error;
+        if (!ExportarPNG(FiguraGráfico(p, nombre), QDir(carpeta).filePath(Q("figura_" + nombre) + ".png"), &error))
+          ++fallos;
+      }
+      // The anchor screen on that calculation, as its button on the result screen opens it.
+      InterfazQt ui;
+      ui.Sustituto(&guion);
+      ui.AlMostrar([](VistaPantalla& vista) {
+        Guardar(vista, vista.pantalla().nombre.empty() ? "anclajes" : vista.pantalla().nombre);
+        throw Corte{};
+      });
+      try {
+        AbrirAnclajes(p, ui, false);
+      } catch (const Corte&) {
+      }
+    }
     ventana.hide();
   }
   {
