@@ -81,6 +81,10 @@ Resumen ResumirProyecto(const Proyecto& p) {
   if (p.NúmeroIteraciones > 0) {
     const double fs = p.HistoriaIteraciones.FactorDeSeguridad.Leer(p.NúmeroIteraciones);
     if (std::isfinite(fs)) r.FactorDeSeguridad = fs;
+    const double m1 = p.HistoriaIteraciones.Multiplicador1.Leer(p.NúmeroIteraciones);
+    const double m2 = p.HistoriaIteraciones.Multiplicador2.Leer(p.NúmeroIteraciones);
+    if (std::isfinite(m1)) r.Multiplicador1 = m1;
+    if (std::isfinite(m2)) r.Multiplicador2 = m2;
   }
   r.sumas = {{"SumaTangenciales", p.SumaTangenciales},
              {"SumaNormalesTotales", p.SumaNormalesTotales},
@@ -103,6 +107,8 @@ std::string ResumenComoTexto(const Resumen& r) {
   std::ostringstream s;
   s << "--- Resumen ---\n";
   s << "FactorDeSeguridad: " << (r.FactorDeSeguridad ? Completo(*r.FactorDeSeguridad) : "(sin cálculo)") << "\n";
+  s << "Multiplicador1: " << (r.Multiplicador1 ? Completo(*r.Multiplicador1) : "(sin cálculo)") << "\n";
+  s << "Multiplicador2: " << (r.Multiplicador2 ? Completo(*r.Multiplicador2) : "(sin cálculo)") << "\n";
   s << "NúmeroIteraciones: " << r.NúmeroIteraciones << "\n";
   s << "NúmeroBordes: " << r.NúmeroBordes << "\n";
   for (const auto& [nombre, valor] : r.sumas) s << nombre << ": " << Completo(valor) << "\n";
@@ -134,6 +140,8 @@ std::string InformeComoJson(const InformeLote& informe) {
   s << (informe.transcripción.empty() ? "" : "\n  ") << "],\n";
   s << "  \"fallo\": " << (informe.fallo ? "true" : "false") << ",\n";
   s << "  \"FactorDeSeguridad\": " << (r.FactorDeSeguridad ? NúmeroJson(*r.FactorDeSeguridad) : "null") << ",\n";
+  s << "  \"Multiplicador1\": " << (r.Multiplicador1 ? NúmeroJson(*r.Multiplicador1) : "null") << ",\n";
+  s << "  \"Multiplicador2\": " << (r.Multiplicador2 ? NúmeroJson(*r.Multiplicador2) : "null") << ",\n";
   s << "  \"NúmeroIteraciones\": " << r.NúmeroIteraciones << ",\n";
   s << "  \"NúmeroBordes\": " << r.NúmeroBordes << ",\n";
   for (const auto& [nombre, valor] : r.sumas) s << "  " << TextoJson(nombre) << ": " << NúmeroJson(valor) << ",\n";

@@ -13,6 +13,8 @@ namespace lomaterra::lote {
 
 struct Resumen {
   std::optional<double> FactorDeSeguridad;  // last row of the history; none before a calculation
+  // The multipliers of that row (the variational method fills them; the other methods leave 0).
+  std::optional<double> Multiplicador1, Multiplicador2;
   long NúmeroIteraciones = 0;
   long NúmeroBordes = 0;
   std::vector<std::pair<std::string, double>> sumas;

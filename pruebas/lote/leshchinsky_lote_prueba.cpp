@@ -1,6 +1,8 @@
 // The variational method in a batch run: every question of the iteration screen takes the default
 // No, so the run goes on until the sums pass.
 #include <gtest/gtest.h>
+
+#include <cmath>
 #include <sys/wait.h>
 
 #include <cstdlib>
@@ -49,6 +51,22 @@ TEST(LeshchinskyLote, ElEjemploIteraHastaQueLasSumasPasan) {
   EXPECT_EQ(noEsSolución, pasos);
   EXPECT_EQ(noSalir, pasos);
   EXPECT_TRUE(fin);
+  // The summary gives the last row of the history with both multipliers, and the three
+  // equilibrium sums within the tolerances that ended the iteration (0.001, 0.001 and 0.009).
+  auto valor = [&](const std::string& clave) {
+    for (const auto& l : líneas)
+      if (l.rfind(clave + ": ", 0) == 0) return std::stod(l.substr(clave.size() + 2));
+    ADD_FAILURE() << clave;
+    return 0.0;
+  };
+  // The multipliers are a point: an abscissa between the ends of the failure surface (29.7 to
+  // 51.24) and an ordinate above the crest (35).
+  EXPECT_GT(valor("Multiplicador1"), 29.7);
+  EXPECT_LT(valor("Multiplicador1"), 51.24);
+  EXPECT_GT(valor("Multiplicador2"), 35.0);
+  EXPECT_LE(std::fabs(valor("SumaFuerzasHorizontales")), 0.001);
+  EXPECT_LE(std::fabs(valor("SumaFuerzasVerticales")), 0.001);
+  EXPECT_LE(std::fabs(valor("SumaMomentos")), 0.009);
 }
 
 }  // namespace
