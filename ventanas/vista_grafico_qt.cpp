@@ -45,7 +45,8 @@ struct Extensión {
       return;
     }
     const double margen = b > a ? 0.04 * (b - a) : std::max(1.0, 0.1 * std::abs(a));
-    a -= margen;
+    // Data that never go below zero keep zero as the edge of the axis.
+    a = a >= 0 ? std::max(0.0, a - margen) : a - margen;
     b += margen;
   }
 };
