@@ -13,10 +13,12 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QStringList>
 #include <QVBoxLayout>
 
 #include "informe_qt.h"
 #include "pintor.h"
+#include "vista_grafico_qt.h"
 
 namespace lomaterra {
 
@@ -88,11 +90,31 @@ QDialog* CrearDiálogoFigura(QWidget* padre, const Figura& figura) {
   d->setWindowTitle(
       QString::fromStdString(figura.título.empty() ? std::string("Figura") : figura.título));
   d->setSizeGripEnabled(true);
-  auto* vista = new VistaFigura(figura, d);
+  // On screen, an x-y chart is a Qt Charts view with the notes below it; a drawing is painted.
+  // Exports and printing always go through the painter.
+  QWidget* vista = nullptr;
+  QLabel* notas = nullptr;
   auto* coordenadas = new QLabel(d);
   coordenadas->setObjectName(QStringLiteral("EtiquetaCoordenadasFigura"));
   coordenadas->setMinimumWidth(260);
-  vista->alMoverRatón = [coordenadas](const QString& t) { coordenadas->setText(t); };
+  auto alMoverRatón = [coordenadas](const QString& t) { coordenadas->setText(t); };
+  if (figura.tipo == Figura::Tipo::Gráfico) {
+    auto* gráfico = static_cast<VistaGráfico*>(CrearVistaGráfico(figura, d));
+    gráfico->alMoverRatón = alMoverRatón;
+    vista = gráfico;
+    if (!figura.notas.empty()) {
+      QStringList líneas;
+      for (const auto& n : figura.notas) líneas << QString::fromStdString(n);
+      notas = new QLabel(líneas.join('\n'), d);
+      notas->setObjectName(QStringLiteral("EtiquetaNotasFigura"));
+      notas->setAlignment(Qt::AlignHCenter);
+      notas->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    }
+  } else {
+    auto* dibujo = new VistaFigura(figura, d);
+    dibujo->alMoverRatón = alMoverRatón;
+    vista = dibujo;
+  }
   auto botón = [d](const char* nombre, const QString& texto) {
     auto* b = new QPushButton(texto, d);
     b->setObjectName(QString::fromUtf8(nombre));
@@ -104,17 +126,17 @@ QDialog* CrearDiálogoFigura(QWidget* padre, const Figura& figura) {
   auto* pdf = botón("BotónExportarPDF", QStringLiteral("Exportar PDF..."));
   auto* imprimir = botón("BotónImprimir", QStringLiteral("Imprimir..."));
   auto* cerrar = botón("BotónCerrar", QStringLiteral("Cerrar"));
-  QObject::connect(png, &QPushButton::clicked, d, [d, vista] {
-    Exportar(d, vista->figura(), "png", QStringLiteral("Imágenes PNG (*.png)"));
+  QObject::connect(png, &QPushButton::clicked, d, [d, figura] {
+    Exportar(d, figura, "png", QStringLiteral("Imágenes PNG (*.png)"));
   });
-  QObject::connect(svg, &QPushButton::clicked, d, [d, vista] {
-    Exportar(d, vista->figura(), "svg", QStringLiteral("Dibujos SVG (*.svg)"));
+  QObject::connect(svg, &QPushButton::clicked, d, [d, figura] {
+    Exportar(d, figura, "svg", QStringLiteral("Dibujos SVG (*.svg)"));
   });
-  QObject::connect(pdf, &QPushButton::clicked, d, [d, vista] {
-    Exportar(d, vista->figura(), "pdf", QStringLiteral("Documentos PDF (*.pdf)"));
+  QObject::connect(pdf, &QPushButton::clicked, d, [d, figura] {
+    Exportar(d, figura, "pdf", QStringLiteral("Documentos PDF (*.pdf)"));
   });
   QObject::connect(imprimir, &QPushButton::clicked, d,
-                   [d, vista] { ImprimirFigura(d, vista->figura()); });
+                   [d, figura] { ImprimirFigura(d, figura); });
   QObject::connect(cerrar, &QPushButton::clicked, d, &QDialog::accept);
   auto* fila = new QHBoxLayout;
   fila->addWidget(coordenadas);
@@ -122,6 +144,7 @@ QDialog* CrearDiálogoFigura(QWidget* padre, const Figura& figura) {
   for (auto* b : {png, svg, pdf, imprimir, cerrar}) fila->addWidget(b);
   auto* columna = new QVBoxLayout(d);
   columna->addWidget(vista, 1);
+  if (notas) columna->addWidget(notas);
   columna->addLayout(fila);
   d->resize(1000, 760);
   return d;

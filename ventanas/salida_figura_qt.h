@@ -13,7 +13,7 @@
 
 namespace lomaterra {
 
-// A widget that paints a figure fitted to its size and reports the coordinates under the mouse.
+// A widget that paints a drawing fitted to its size and reports the coordinates under the mouse.
 class VistaFigura : public QWidget {
  public:
   explicit VistaFigura(const Figura& figura, QWidget* padre = nullptr);
@@ -30,8 +30,10 @@ class VistaFigura : public QWidget {
   Figura figura_;
 };
 
-// The dialog with the drawing or chart and the buttons "Exportar PNG...", "Exportar SVG...",
-// "Exportar PDF...", "Imprimir..." and "Cerrar". Not shown: the caller shows or executes it.
+// The dialog with the drawing (a VistaFigura) or the chart (a Qt Charts VistaGráfico with the
+// notes in a label below it) and the buttons "Exportar PNG...", "Exportar SVG...",
+// "Exportar PDF...", "Imprimir..." and "Cerrar", which draw with the painter. Not shown: the caller
+// shows or executes it.
 QDialog* CrearDiálogoFigura(QWidget* padre, const Figura& figura);
 // Shows the figure modally.
 void MostrarFiguraQt(QWidget* padre, const Figura& figura);

@@ -30,6 +30,7 @@
 #include "pantallas/anclajes.h"
 #include "pintor.h"
 #include "salida/graficos.h"
+#include "salida_figura_qt.h"
 #include "ventana_principal_qt.h"
 #include "vista_pantalla.h"
 
@@ -282,6 +283,20 @@ int main(int argc, char** argv) {
         Guardar(*ventana, "ayuda_teoría");
       }
       delete ventana;
+    }
+  }
+  {
+    // Two charts of the sample project after Fellenius, as their dialogs show them.
+    Proyecto p = muestra;
+    InterfazGuionada mudo("N");
+    const auto árbol = ÁrbolDeMenús();
+    if (const EntradaMenú* fellenius = BuscarEntrada(árbol, "MétodoFellenius"))
+      EjecutarComando(fellenius->acción, p, mudo);
+    for (const char* nombre : {"GráficoEsfuerzosNormalesTotalesEfectivosTangenciales",
+                               "GráficoResistenciaAlCorteVsEsfuerzoNormal"}) {
+      QDialog* diálogo = CrearDiálogoFigura(nullptr, FiguraGráfico(p, nombre));
+      Guardar(*diálogo, std::string("diálogo_") + nombre);
+      delete diálogo;
     }
   }
   {
