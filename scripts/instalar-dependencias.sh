@@ -6,7 +6,7 @@ paquetes=(
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   qt6-base-dev qt6-base-dev-tools libqt6svg6-dev qt6-charts-dev libqt6opengl6-dev
   libgl1-mesa-dev libxkbcommon-dev
-  fonts-dejavu-core xvfb xauth poppler-utils
+  fonts-dejavu-core xvfb xauth poppler-utils locales
 )
 faltan=()
 for p in "${paquetes[@]}"; do
@@ -18,4 +18,10 @@ if [ ${#faltan[@]} -gt 0 ]; then
   [ "$(id -u)" -ne 0 ] && SUDO="sudo"
   $SUDO apt-get update -qq
   DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y -qq --no-install-recommends "${faltan[@]}"
+fi
+# A Spanish locale, so the tests can check that numbers keep their decimal point under it.
+if ! locale -a 2>/dev/null | grep -qi '^es_ES\.utf-\?8$'; then
+  SUDO=""
+  [ "$(id -u)" -ne 0 ] && SUDO="sudo"
+  $SUDO localedef -i es_ES -f UTF-8 es_ES.UTF-8 || echo "Aviso: no se pudo generar la configuración regional es_ES.UTF-8"
 fi

@@ -1,5 +1,7 @@
 #include "lote/json_prueba.h"
 
+#include "proyecto/compat.h"
+
 #include <cctype>
 #include <cstdlib>
 #include <stdexcept>
@@ -100,7 +102,7 @@ class Lector {
       if (i_ < t_.size() && (t_[i_] == '+' || t_[i_] == '-')) ++i_;
       dígitos();
     }
-    return std::strtod(t_.substr(inicio, i_ - inicio).c_str(), nullptr);
+    return ANúmero(t_.substr(inicio, i_ - inicio));
   }
 
   static void Utf8(std::string& s, unsigned c) {

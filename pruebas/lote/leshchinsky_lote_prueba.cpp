@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "apoyo/apoyo.h"
+#include "proyecto/compat.h"
 
 namespace lomaterra::pruebas {
 namespace {
@@ -55,7 +56,7 @@ TEST(LeshchinskyLote, ElEjemploIteraHastaQueLasSumasPasan) {
   // equilibrium sums within the tolerances that ended the iteration (0.001, 0.001 and 0.009).
   auto valor = [&](const std::string& clave) {
     for (const auto& l : líneas)
-      if (l.rfind(clave + ": ", 0) == 0) return std::stod(l.substr(clave.size() + 2));
+      if (l.rfind(clave + ": ", 0) == 0) return ANúmero(l.substr(clave.size() + 2));
     ADD_FAILURE() << clave;
     return 0.0;
   };

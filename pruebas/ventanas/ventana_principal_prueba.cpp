@@ -72,7 +72,7 @@ class VentanaPrueba : public ::testing::Test {
     };
     return a;
   }
-  static double ANúmeroPrueba(const std::string& s) { return std::stod(s); }
+  static double ANúmeroPrueba(const std::string& s) { return ANúmero(s); }
 
   Proyecto p;
   std::vector<Llamada> llamadas;
