@@ -152,13 +152,16 @@ QChartView* CrearVistaGráfico(const Figura& figura, QWidget* padre) {
     serie->attachAxis(ejeY);
   }
 
-  bool algunaLeyenda = false;
+  int nombradas = 0;
   for (const auto& [serie, visible] : series) {
     for (QLegendMarker* marcador : gráfico->legend()->markers(serie)) marcador->setVisible(visible);
-    algunaLeyenda = algunaLeyenda || visible;
+    nombradas += visible ? 1 : 0;
   }
-  gráfico->legend()->setVisible(algunaLeyenda);
-  gráfico->legend()->setAlignment(Qt::AlignBottom);
+  gráfico->legend()->setVisible(nombradas > 0);
+  // A few entries fit in a row under the chart; more go to a column at its side, where their
+  // names are not cut short.
+  gráfico->legend()->setAlignment(nombradas > 3 ? Qt::AlignRight : Qt::AlignBottom);
+  gráfico->legend()->setShowToolTips(true);
 
   auto* vista = new VistaGráfico(gráfico, padre);
   vista->setObjectName(QStringLiteral("VistaGráfico"));
