@@ -219,34 +219,29 @@ Figura FiguraGráfico(const Proyecto& p, const std::string& nombre) {
   if (nombre == "GráficoGeometría") return FiguraSección(p);
   if (nombre == "GráficoGeometríaAdaptadaEscalaEsfuerzos") return FiguraSecciónConEsfuerzos(p);
   if (nombre == "GráficoResistenciaAlCorteVsEsfuerzoNormal") return ResistenciaContraNormal(p);
-  if (nombre == "GráficoEsfuerzoPrincipalMenor") {
-    Figura f = Gráfico(p, nombre, "Esfuerzo principal menor en la base de las dovelas",
-                       "Esfuerzo principal menor σ3" + sigma);
-    f.trazos.push_back(
-        Serie(p, d.EsfuerzoPrincipalMenor, "Esfuerzo principal menor σ3", tonos::Menor, "círculo"));
-    return f;
-  }
-  if (nombre == "GráficoEsfuerzoPrincipalMayor") {
-    Figura f = Gráfico(p, nombre, "Esfuerzo principal mayor en la base de las dovelas",
-                       "Esfuerzo principal mayor σ1" + sigma);
-    f.trazos.push_back(
-        Serie(p, d.EsfuerzoPrincipalMayor, "Esfuerzo principal mayor σ1", tonos::Mayor, "círculo"));
-    return f;
-  }
-  if (nombre == "GráficoEsfuerzoNormalesTotales") {
-    Figura f = Gráfico(p, nombre, "Esfuerzos normales totales en la base de las dovelas",
-                       "Esfuerzo normal total σ" + sigma);
-    f.trazos.push_back(
-        Serie(p, d.EsfuerzoNormalTotal, "Esfuerzo normal total σ", tonos::NormalTotal, "círculo"));
-    return f;
-  }
-  if (nombre == "GráficoEsfuerzoNormalesEfectivos") {
-    Figura f = Gráfico(p, nombre, "Esfuerzos normales efectivos en la base de las dovelas",
-                       "Esfuerzo normal efectivo σ'" + sigma);
-    f.trazos.push_back(Serie(p, d.EsfuerzoNormalEfectivo, "Esfuerzo normal efectivo σ'",
-                             tonos::NormalEfectivo, "círculo"));
-    return f;
-  }
+  // The charts of one column of the slices along the abscissa.
+  const struct {
+    const char* nombre;
+    const char* título;
+    const char* serie;
+    Tabla<double> TablaDeDovelas::*columna;
+    Color tono;
+  } kUnaColumna[] = {
+      {"GráficoEsfuerzoPrincipalMenor", "Esfuerzo principal menor en la base de las dovelas",
+       "Esfuerzo principal menor σ3", &TablaDeDovelas::EsfuerzoPrincipalMenor, tonos::Menor},
+      {"GráficoEsfuerzoPrincipalMayor", "Esfuerzo principal mayor en la base de las dovelas",
+       "Esfuerzo principal mayor σ1", &TablaDeDovelas::EsfuerzoPrincipalMayor, tonos::Mayor},
+      {"GráficoEsfuerzoNormalesTotales", "Esfuerzos normales totales en la base de las dovelas",
+       "Esfuerzo normal total σ", &TablaDeDovelas::EsfuerzoNormalTotal, tonos::NormalTotal},
+      {"GráficoEsfuerzoNormalesEfectivos", "Esfuerzos normales efectivos en la base de las dovelas",
+       "Esfuerzo normal efectivo σ'", &TablaDeDovelas::EsfuerzoNormalEfectivo, tonos::NormalEfectivo},
+  };
+  for (const auto& g : kUnaColumna)
+    if (nombre == g.nombre) {
+      Figura f = Gráfico(p, nombre, g.título, g.serie + sigma);
+      f.trazos.push_back(Serie(p, d.*(g.columna), g.serie, g.tono, "círculo"));
+      return f;
+    }
   if (nombre == "GráficoEsfuerzosTangencialesMovilizados") {
     Figura f = Gráfico(p, nombre, "Esfuerzos tangenciales movilizados en la base de las dovelas",
                        "Esfuerzo tangencial τ" + sigma);
