@@ -5,7 +5,7 @@
 
 #include "equilibrio/dovelas.h"
 #include "equilibrio/fellenius.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

@@ -18,7 +18,7 @@
 #include "opciones.h"
 #include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 #include "resumen.h"
 #include "salida/graficos.h"
@@ -38,35 +38,35 @@ class InterfazLote : public InterfazGuionada {
  public:
   InterfazLote(const std::string& respuestas, bool porDefecto) : InterfazGuionada(respuestas, porDefecto) {}
 
-  void Mensaje(const std::string& texto, const std::string& título = "") override {
-    InterfazGuionada::Mensaje(texto, título);
+  void HacerMensaje(const std::string& texto, const std::string& título) override {
+    InterfazGuionada::HacerMensaje(texto, título);
     Emitir();
   }
-  bool Pregunta(const std::string& texto, const std::string& título = "") override {
-    const bool r = InterfazGuionada::Pregunta(texto, título);
-    Emitir();
-    return r;
-  }
-  void Estado(const std::string& texto) override {
-    InterfazGuionada::Estado(texto);
-    Emitir();
-  }
-  void Abrir(Pantalla& pantalla) override {
-    InterfazGuionada::Abrir(pantalla);
-    Emitir();
-  }
-  std::optional<std::string> ElegirArchivoAbrir(const std::string& filtro, int índice) override {
-    auto r = InterfazGuionada::ElegirArchivoAbrir(filtro, índice);
+  bool HacerPregunta(const std::string& texto, const std::string& título) override {
+    const bool r = InterfazGuionada::HacerPregunta(texto, título);
     Emitir();
     return r;
   }
-  std::optional<std::string> ElegirArchivoGuardar(const std::string& filtro, int índice) override {
-    auto r = InterfazGuionada::ElegirArchivoGuardar(filtro, índice);
+  void HacerEstado(const std::string& texto) override {
+    InterfazGuionada::HacerEstado(texto);
+    Emitir();
+  }
+  void HacerAbrir(Pantalla& pantalla) override {
+    InterfazGuionada::HacerAbrir(pantalla);
+    Emitir();
+  }
+  std::optional<std::string> HacerElegirArchivoAbrir(const std::string& filtro, int índice) override {
+    auto r = InterfazGuionada::HacerElegirArchivoAbrir(filtro, índice);
     Emitir();
     return r;
   }
-  void Ayuda(const std::string& archivo) override {
-    InterfazGuionada::Ayuda(archivo);
+  std::optional<std::string> HacerElegirArchivoGuardar(const std::string& filtro, int índice) override {
+    auto r = InterfazGuionada::HacerElegirArchivoGuardar(filtro, índice);
+    Emitir();
+    return r;
+  }
+  void HacerAyuda(const std::string& archivo) override {
+    InterfazGuionada::HacerAyuda(archivo);
     Emitir();
   }
 

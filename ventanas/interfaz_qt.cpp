@@ -105,7 +105,7 @@ QWidget* InterfazQt::Padre() const {
   return ventana_;
 }
 
-void InterfazQt::Mensaje(const std::string& texto, const std::string& título) {
+void InterfazQt::HacerMensaje(const std::string& texto, const std::string& título) {
   if (sustituto_) {
     sustituto_->Mensaje(texto, título);
     return;
@@ -114,7 +114,7 @@ void InterfazQt::Mensaje(const std::string& texto, const std::string& título) {
   CrearCaja(texto, título, false, Padre())->exec();
 }
 
-bool InterfazQt::Pregunta(const std::string& texto, const std::string& título) {
+bool InterfazQt::HacerPregunta(const std::string& texto, const std::string& título) {
   if (sustituto_) return sustituto_->Pregunta(texto, título);
   MostrarLaQueSeActiva();
   auto caja = CrearCaja(texto, título, true, Padre());
@@ -122,7 +122,7 @@ bool InterfazQt::Pregunta(const std::string& texto, const std::string& título) 
   return caja->clickedButton() == caja->defaultButton();
 }
 
-void InterfazQt::Estado(const std::string& texto) {
+void InterfazQt::HacerEstado(const std::string& texto) {
   if (alEstado_) alEstado_(Q(texto));
   if (sustituto_) sustituto_->Estado(texto);
 }
@@ -134,7 +134,7 @@ void InterfazQt::MostrarLaQueSeActiva() {
   activando_->raise();
 }
 
-void InterfazQt::Abrir(Pantalla& pantalla) {
+void InterfazQt::HacerAbrir(Pantalla& pantalla) {
   pantalla.cerrada = false;
   // The view exists before the screen is activated: a screen that asks or warns as it opens is
   // then seen, filled so far, behind its boxes, as a window whose opening code runs once shown.
@@ -167,7 +167,7 @@ void InterfazQt::Abrir(Pantalla& pantalla) {
   pantalla.cerrada = true;
 }
 
-std::optional<std::string> InterfazQt::ElegirArchivoAbrir(const std::string& filtro, int índice) {
+std::optional<std::string> InterfazQt::HacerElegirArchivoAbrir(const std::string& filtro, int índice) {
   if (sustituto_) return sustituto_->ElegirArchivoAbrir(filtro, índice);
   FiltroQt f = ConvertirFiltro(filtro, índice);
   const QString ruta = QFileDialog::getOpenFileName(Padre(), QStringLiteral("Abrir"), QString(),
@@ -176,7 +176,7 @@ std::optional<std::string> InterfazQt::ElegirArchivoAbrir(const std::string& fil
   return S(QDir::toNativeSeparators(ruta));
 }
 
-std::optional<std::string> InterfazQt::ElegirArchivoGuardar(const std::string& filtro, int índice) {
+std::optional<std::string> InterfazQt::HacerElegirArchivoGuardar(const std::string& filtro, int índice) {
   if (sustituto_) return sustituto_->ElegirArchivoGuardar(filtro, índice);
   const FiltroQt f = ConvertirFiltro(filtro, índice);
   QFileDialog diálogo(Padre(), QStringLiteral("Guardar como"), QString(), f.filtros);
@@ -207,7 +207,7 @@ QString InterfazQt::BuscarAyuda(const std::string& archivo) {
   return QString();
 }
 
-void InterfazQt::Ayuda(const std::string& archivo) {
+void InterfazQt::HacerAyuda(const std::string& archivo) {
   if (sustituto_) {
     sustituto_->Ayuda(archivo);
     return;
@@ -226,7 +226,7 @@ void InterfazQt::Ayuda(const std::string& archivo) {
   ayuda_->activateWindow();
 }
 
-void InterfazQt::AcercaDe(const std::string& título, const std::string& texto) {
+void InterfazQt::HacerAcercaDe(const std::string& título, const std::string& texto) {
   if (sustituto_) {
     sustituto_->AcercaDe(título, texto);
     return;
@@ -237,7 +237,7 @@ void InterfazQt::AcercaDe(const std::string& título, const std::string& texto) 
   caja->exec();
 }
 
-void InterfazQt::MostrarFigura(const Figura& figura) {
+void InterfazQt::HacerMostrarFigura(const Figura& figura) {
   if (sustituto_) {
     sustituto_->MostrarFigura(figura);
     return;
@@ -245,7 +245,7 @@ void InterfazQt::MostrarFigura(const Figura& figura) {
   MostrarFiguraQt(Padre(), figura);
 }
 
-void InterfazQt::CopiarAlPortapapeles(const std::string& texto) {
+void InterfazQt::HacerCopiarAlPortapapeles(const std::string& texto) {
   if (sustituto_) {
     sustituto_->CopiarAlPortapapeles(texto);
     return;
@@ -253,7 +253,7 @@ void InterfazQt::CopiarAlPortapapeles(const std::string& texto) {
   CopiarAlPortapapelesQt(texto);
 }
 
-void InterfazQt::Imprimir(const Informe& informe) {
+void InterfazQt::HacerImprimir(const Informe& informe) {
   if (sustituto_) {
     sustituto_->Imprimir(informe);
     return;

@@ -39,17 +39,17 @@ class InterfazQt : public Interfaz {
   // `ventana` is the parent of boxes and dialogs when no modal screen is open (may be null).
   explicit InterfazQt(QWidget* ventana = nullptr);
 
-  void Mensaje(const std::string& texto, const std::string& título = "") override;
-  bool Pregunta(const std::string& texto, const std::string& título = "") override;
-  void Estado(const std::string& texto) override;
-  void Abrir(Pantalla& pantalla) override;
-  std::optional<std::string> ElegirArchivoAbrir(const std::string& filtro, int índice) override;
-  std::optional<std::string> ElegirArchivoGuardar(const std::string& filtro, int índice) override;
-  void Ayuda(const std::string& archivo) override;
-  void AcercaDe(const std::string& título, const std::string& texto) override;
-  void MostrarFigura(const Figura& figura) override;
-  void CopiarAlPortapapeles(const std::string& texto) override;
-  void Imprimir(const Informe& informe) override;
+  void HacerMensaje(const std::string& texto, const std::string& título) override;
+  bool HacerPregunta(const std::string& texto, const std::string& título) override;
+  void HacerEstado(const std::string& texto) override;
+  void HacerAbrir(Pantalla& pantalla) override;
+  std::optional<std::string> HacerElegirArchivoAbrir(const std::string& filtro, int índice) override;
+  std::optional<std::string> HacerElegirArchivoGuardar(const std::string& filtro, int índice) override;
+  void HacerAyuda(const std::string& archivo) override;
+  void HacerAcercaDe(const std::string& título, const std::string& texto) override;
+  void HacerMostrarFigura(const Figura& figura) override;
+  void HacerCopiarAlPortapapeles(const std::string& texto) override;
+  void HacerImprimir(const Informe& informe) override;
 
   void FijarVentana(QWidget* ventana) { ventana_ = ventana; }
   // Where the status texts go (the main window's status line).

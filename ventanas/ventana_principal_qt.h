@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "interfaz_qt.h"
-#include "pantallas/ventana_principal.h"
+#include "proyecto/ventana_principal.h"
 #include "proyecto/comandos.h"
 
 class QComboBox;

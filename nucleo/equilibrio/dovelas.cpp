@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "equilibrio/dovelas_interno.h"
-#include "pantallas/constantes.h"
+#include "equilibrio/constantes.h"
 #include "proyecto/fallos.h"
 #include "proyecto/interfaz.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "equilibrio/puertas.h"
-#include "pantallas/form17.h"
+#include "equilibrio/form17.h"
 #include "proyecto/compat.h"
 #include "proyecto/fallos.h"
 #include "proyecto/interfaz.h"

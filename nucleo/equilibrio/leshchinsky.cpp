@@ -4,8 +4,8 @@
 
 #include "equilibrio/dovelas.h"
 #include "equilibrio/puertas.h"
-#include "pantallas/form13.h"
-#include "pantallas/form9.h"
+#include "equilibrio/form13.h"
+#include "equilibrio/form9.h"
 #include "proyecto/compat.h"
 #include "proyecto/fallos.h"
 #include "proyecto/interfaz.h"

@@ -7,7 +7,7 @@
 #include "equilibrio/leshchinsky.h"
 #include "pantallas/comandos_archivo.h"
 #include "pantallas/comandos_coordenadas.h"
-#include "pantallas/constantes.h"
+#include "equilibrio/constantes.h"
 #include "pantallas/constantes_elementos.h"
 #include "pantallas/form15.h"
 #include "pantallas/form18.h"

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "pantallas/ventana_principal.h"
+#include "proyecto/ventana_principal.h"
 #include "proyecto/tabla.h"
 
 namespace lomaterra {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra::pruebas {
 
@@ -13,9 +13,9 @@ class InterfazEspía : public InterfazGuionada {
  public:
   using InterfazGuionada::InterfazGuionada;
   std::function<void(Pantalla&)> alAbrir;
-  void Abrir(Pantalla& pantalla) override {
+  void HacerAbrir(Pantalla& pantalla) override {
     if (alAbrir) alAbrir(pantalla);
-    InterfazGuionada::Abrir(pantalla);
+    InterfazGuionada::HacerAbrir(pantalla);
   }
 };
 

@@ -9,7 +9,7 @@
 #include "apoyo/proyectos.h"
 #include "equilibrio/acads_apoyo.h"
 #include "equilibrio/bishop.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

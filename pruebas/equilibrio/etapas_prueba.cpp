@@ -6,7 +6,7 @@
 #include "equilibrio/dovelas.h"
 #include "equilibrio/dovelas_apoyo.h"
 #include "proyecto/fallos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra {
 namespace {

@@ -8,7 +8,7 @@
 #include "equilibrio/dovelas_apoyo.h"
 #include "equilibrio/fellenius.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra {
 namespace {

@@ -8,8 +8,8 @@
 #include "apoyo/proyectos.h"
 #include "equilibrio/acads_apoyo.h"
 #include "equilibrio/janbu.h"
-#include "pantallas/form17.h"
-#include "proyecto/interfaz_guionada.h"
+#include "equilibrio/form17.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

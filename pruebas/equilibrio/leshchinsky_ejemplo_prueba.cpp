@@ -15,7 +15,7 @@
 #include "equilibrio/leshchinsky.h"
 #include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

@@ -12,7 +12,7 @@
 #include "apoyo/talud_circular.h"
 #include "equilibrio/leshchinsky.h"
 #include "equilibrio/matrices.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

@@ -9,10 +9,10 @@
 #include "apoyo/interfaz_espia.h"
 #include "apoyo/talud_circular.h"
 #include "equilibrio/leshchinsky.h"
-#include "pantallas/form13.h"
+#include "equilibrio/form13.h"
 #include "proyecto/comandos.h"
 #include "proyecto/compat.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

@@ -8,7 +8,7 @@
 #include "apoyo/apoyo.h"
 #include "lote/ejemplos.h"
 #include "proyecto/archivo.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra::pruebas {
 namespace {

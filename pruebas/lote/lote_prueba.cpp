@@ -15,7 +15,7 @@
 #include "lote/json_prueba.h"
 #include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra::pruebas {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "apoyo/apoyo.h"
 #include "pantallas/comandos_archivo.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {
@@ -21,13 +21,13 @@ namespace {
 class InterfazConFiltros : public InterfazGuionada {
  public:
   using InterfazGuionada::InterfazGuionada;
-  std::optional<std::string> ElegirArchivoAbrir(const std::string& filtro, int índice) override {
+  std::optional<std::string> HacerElegirArchivoAbrir(const std::string& filtro, int índice) override {
     filtros.emplace_back(filtro, índice);
-    return InterfazGuionada::ElegirArchivoAbrir(filtro, índice);
+    return InterfazGuionada::HacerElegirArchivoAbrir(filtro, índice);
   }
-  std::optional<std::string> ElegirArchivoGuardar(const std::string& filtro, int índice) override {
+  std::optional<std::string> HacerElegirArchivoGuardar(const std::string& filtro, int índice) override {
     filtros.emplace_back(filtro, índice);
-    return InterfazGuionada::ElegirArchivoGuardar(filtro, índice);
+    return InterfazGuionada::HacerElegirArchivoGuardar(filtro, índice);
   }
   std::vector<std::pair<std::string, int>> filtros;
 };

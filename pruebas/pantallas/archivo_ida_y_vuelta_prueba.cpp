@@ -8,7 +8,7 @@
 
 #include "apoyo/apoyo.h"
 #include "pantallas/comandos_archivo.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

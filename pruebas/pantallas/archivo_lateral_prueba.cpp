@@ -11,7 +11,7 @@
 #include "apoyo/apoyo.h"
 #include "pantallas/archivo_lateral.h"
 #include "pantallas/comandos_coordenadas.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

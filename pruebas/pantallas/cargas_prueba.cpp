@@ -6,7 +6,7 @@
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "apoyo/proyectos.h"
-#include "pantallas/constantes.h"
+#include "equilibrio/constantes.h"
 #include "pantallas/constantes_elementos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

@@ -8,9 +8,9 @@
 
 #include "pantallas/comandos_coordenadas.h"
 #include "pantallas/form4.h"
-#include "pantallas/ventana_principal.h"
+#include "proyecto/ventana_principal.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

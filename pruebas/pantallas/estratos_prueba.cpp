@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "pantallas/form5.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "pantallas/form13.h"
-#include "pantallas/form9.h"
+#include "equilibrio/form13.h"
+#include "equilibrio/form9.h"
 #include "proyecto/comandos.h"
 #include "proyecto/compat.h"
 #include "proyecto/fallos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

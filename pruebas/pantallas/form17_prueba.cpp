@@ -1,8 +1,8 @@
 // The screen of heights of the lateral forces, driven without a window.
 #include <gtest/gtest.h>
 
-#include "pantallas/form17.h"
-#include "proyecto/interfaz_guionada.h"
+#include "equilibrio/form17.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

@@ -8,7 +8,7 @@
 
 #include "pantallas/form18.h"
 #include "pantallas/form34.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

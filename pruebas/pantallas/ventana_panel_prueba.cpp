@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "pantallas/comandos_coordenadas.h"
-#include "pantallas/ventana_principal.h"
-#include "proyecto/interfaz_guionada.h"
+#include "proyecto/ventana_principal.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {

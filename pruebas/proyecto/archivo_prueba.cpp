@@ -11,7 +11,7 @@
 #include "apoyo/apoyo.h"
 #include "apoyo/proyectos.h"
 #include "proyecto/archivo.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra {
 namespace {

@@ -9,7 +9,7 @@
 #include "equilibrio/fellenius.h"
 #include "pantallas/resultados.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "salida/diseno_anclajes.h"
 #include "salida/graficos.h"
 #include "salida/resumen.h"

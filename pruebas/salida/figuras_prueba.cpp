@@ -7,7 +7,7 @@
 
 #include "apoyo/apoyo.h"
 #include "proyecto/archivo.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "salida/caso_salida.h"
 #include "salida/resumen.h"
 #include "salida/graficos.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "salida/caso_salida.h"
 #include "salida/informe.h"
 

@@ -10,7 +10,7 @@
 #include "pantallas/anclajes.h"
 #include "pantallas/resultados.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "salida/caso_salida.h"
 #include "salida/diseno_anclajes.h"
 

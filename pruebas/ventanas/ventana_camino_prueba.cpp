@@ -12,7 +12,7 @@
 #include <string>
 
 #include "apoyo/apoyo.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 #include "ventana_apoyo.h"
 #include "ventana_principal_qt.h"

@@ -13,7 +13,7 @@
 #include <string>
 
 #include "interfaz_qt.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "ventana_apoyo.h"
 
 namespace lomaterra {

@@ -18,7 +18,7 @@
 #include "pantallas/comandos_archivo.h"
 #include "proyecto/compat.h"
 #include "proyecto/fallos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 #include "ventana_apoyo.h"
 #include "ventana_principal_qt.h"

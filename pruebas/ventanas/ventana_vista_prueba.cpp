@@ -16,7 +16,7 @@
 #include "interfaz_qt.h"
 #include "proyecto/comandos.h"
 #include "proyecto/fallos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 #include "ventana_apoyo.h"
 #include "vista_pantalla.h"

@@ -26,7 +26,7 @@
 #include "muestra.h"
 #include "pantallas/comandos_archivo.h"
 #include "proyecto/comandos.h"
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 #include "pantallas/anclajes.h"
 #include "pintor.h"
 #include "salida/graficos.h"
@@ -80,13 +80,13 @@ struct Corte {};
 class Guion : public InterfazGuionada {
  public:
   explicit Guion(bool sí) : InterfazGuionada("", sí) {}
-  bool Pregunta(const std::string& t, const std::string& título) override {
+  bool HacerPregunta(const std::string& t, const std::string& título) override {
     Contar();
-    return InterfazGuionada::Pregunta(t, título);
+    return InterfazGuionada::HacerPregunta(t, título);
   }
-  void Mensaje(const std::string& t, const std::string& título) override {
+  void HacerMensaje(const std::string& t, const std::string& título) override {
     Contar();
-    InterfazGuionada::Mensaje(t, título);
+    InterfazGuionada::HacerMensaje(t, título);
   }
 
  private:

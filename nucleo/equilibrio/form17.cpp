@@ -1,4 +1,4 @@
-#include "pantallas/form17.h"
+#include "equilibrio/form17.h"
 
 #include <string>
 

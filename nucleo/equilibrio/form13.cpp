@@ -1,4 +1,4 @@
-#include "pantallas/form13.h"
+#include "equilibrio/form13.h"
 
 #include "proyecto/compat.h"
 #include "proyecto/fallos.h"

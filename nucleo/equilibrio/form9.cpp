@@ -1,4 +1,4 @@
-#include "pantallas/form9.h"
+#include "equilibrio/form9.h"
 
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"

@@ -1,5 +1,5 @@
 // The buttons of the coordinate panel and the stratum selector of the main window.
-#include "pantallas/ventana_principal.h"
+#include "proyecto/ventana_principal.h"
 
 #include <cstddef>
 

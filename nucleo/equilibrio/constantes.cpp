@@ -1,4 +1,4 @@
-#include "pantallas/constantes.h"
+#include "equilibrio/constantes.h"
 
 #include <cmath>
 #include <string>

@@ -31,17 +31,20 @@ class InterfazGuionada : public Interfaz {
   // Answers "SNSN...": one letter a question; then the default.
   explicit InterfazGuionada(const std::string& respuestas, bool porDefecto = false);
 
-  void Mensaje(const std::string& texto, const std::string& título = "") override;
-  bool Pregunta(const std::string& texto, const std::string& título = "") override;
-  void Estado(const std::string& texto) override;
-  void Abrir(Pantalla& pantalla) override;
-  std::optional<std::string> ElegirArchivoAbrir(const std::string& filtro, int índice) override;
-  std::optional<std::string> ElegirArchivoGuardar(const std::string& filtro, int índice) override;
-  void Ayuda(const std::string& archivo) override;
-  void MostrarFigura(const Figura& figura) override;
-  void CopiarAlPortapapeles(const std::string& texto) override;
-  void Imprimir(const Informe& informe) override;
+ protected:
+  void HacerMensaje(const std::string& texto, const std::string& título) override;
+  bool HacerPregunta(const std::string& texto, const std::string& título) override;
+  void HacerEstado(const std::string& texto) override;
+  void HacerAbrir(Pantalla& pantalla) override;
+  std::optional<std::string> HacerElegirArchivoAbrir(const std::string& filtro, int índice) override;
+  std::optional<std::string> HacerElegirArchivoGuardar(const std::string& filtro, int índice) override;
+  void HacerAyuda(const std::string& archivo) override;
+  void HacerMostrarFigura(const Figura& figura) override;
+  void HacerCopiarAlPortapapeles(const std::string& texto) override;
+  void HacerImprimir(const Informe& informe) override;
+  bool HacerProgreso(double fracción, const std::string& texto) override;
 
+ public:
   void Responder(const std::string& respuestas);  // appends answers
   void PorDefecto(bool sí) { porDefecto_ = sí; }
   // What a screen does when it opens: the script runs after Activar while the screen is open.
@@ -54,6 +57,10 @@ class InterfazGuionada : public Interfaz {
   // Texts only, in order, for word-for-word comparisons.
   std::vector<std::string> Textos() const;
   void Olvidar() { apuntes_.clear(); }
+  // Progress calls are counted, not written in the transcript; after `n` of them the run is
+  // told that Cancelar was pressed (a negative n never cancels).
+  void CancelarProgresoTras(int n) { cancelarTras_ = n; }
+  int Progresos() const { return progresos_; }
   std::string ÚltimoEstado() const { return últimoEstado_; }
 
   // One line of the batch transcript: "[mensaje] TÍTULO | TEXTO", "[pregunta] ... -> S".
@@ -67,6 +74,8 @@ class InterfazGuionada : public Interfaz {
   std::vector<Apunte> apuntes_;
   std::string últimoEstado_;
   int profundidad_ = 0;
+  int progresos_ = 0;
+  int cancelarTras_ = -1;
 };
 
 }  // namespace lomaterra

@@ -1,4 +1,4 @@
-#include "proyecto/interfaz_guionada.h"
+#include "pantallas/interfaz_guionada.h"
 
 #include <cctype>
 
@@ -6,11 +6,6 @@
 #include "salida/informe.h"
 
 namespace lomaterra {
-
-std::string TítuloDeArchivo(const std::string& ruta) {
-  const auto corte = ruta.find_last_of("/\\");
-  return corte == std::string::npos ? ruta : ruta.substr(corte + 1);
-}
 
 InterfazGuionada::InterfazGuionada(const std::string& respuestas, bool porDefecto)
     : porDefecto_(porDefecto) {
@@ -29,11 +24,16 @@ void InterfazGuionada::ArchivosElegidos(std::vector<std::string> rutas) {
   archivos_.assign(rutas.begin(), rutas.end());
 }
 
-void InterfazGuionada::Mensaje(const std::string& texto, const std::string& título) {
+bool InterfazGuionada::HacerProgreso(double, const std::string&) {
+  ++progresos_;
+  return cancelarTras_ < 0 || progresos_ <= cancelarTras_;
+}
+
+void InterfazGuionada::HacerMensaje(const std::string& texto, const std::string& título) {
   apuntes_.push_back({"mensaje", título, texto, ""});
 }
 
-bool InterfazGuionada::Pregunta(const std::string& texto, const std::string& título) {
+bool InterfazGuionada::HacerPregunta(const std::string& texto, const std::string& título) {
   bool r = porDefecto_;
   if (!respuestas_.empty()) {
     r = respuestas_.front();
@@ -43,12 +43,12 @@ bool InterfazGuionada::Pregunta(const std::string& texto, const std::string& tí
   return r;
 }
 
-void InterfazGuionada::Estado(const std::string& texto) {
+void InterfazGuionada::HacerEstado(const std::string& texto) {
   últimoEstado_ = texto;
   apuntes_.push_back({"estado", "", texto, ""});
 }
 
-void InterfazGuionada::Abrir(Pantalla& pantalla) {
+void InterfazGuionada::HacerAbrir(Pantalla& pantalla) {
   apuntes_.push_back({"pantalla", pantalla.título, pantalla.nombre, ""});
   pantalla.cerrada = false;
   ++profundidad_;
@@ -64,7 +64,7 @@ void InterfazGuionada::Abrir(Pantalla& pantalla) {
   --profundidad_;
 }
 
-std::optional<std::string> InterfazGuionada::ElegirArchivoAbrir(const std::string&, int) {
+std::optional<std::string> InterfazGuionada::HacerElegirArchivoAbrir(const std::string&, int) {
   std::optional<std::string> r;
   if (!archivos_.empty()) {
     r = archivos_.front();
@@ -74,7 +74,7 @@ std::optional<std::string> InterfazGuionada::ElegirArchivoAbrir(const std::strin
   return r;
 }
 
-std::optional<std::string> InterfazGuionada::ElegirArchivoGuardar(const std::string&, int) {
+std::optional<std::string> InterfazGuionada::HacerElegirArchivoGuardar(const std::string&, int) {
   std::optional<std::string> r;
   if (!archivos_.empty()) {
     r = archivos_.front();
@@ -84,19 +84,19 @@ std::optional<std::string> InterfazGuionada::ElegirArchivoGuardar(const std::str
   return r;
 }
 
-void InterfazGuionada::Ayuda(const std::string& archivo) {
+void InterfazGuionada::HacerAyuda(const std::string& archivo) {
   apuntes_.push_back({"ayuda", "", archivo, ""});
 }
 
-void InterfazGuionada::MostrarFigura(const Figura& figura) {
+void InterfazGuionada::HacerMostrarFigura(const Figura& figura) {
   apuntes_.push_back({"figura", figura.título, figura.nombre, ""});
 }
 
-void InterfazGuionada::CopiarAlPortapapeles(const std::string& texto) {
+void InterfazGuionada::HacerCopiarAlPortapapeles(const std::string& texto) {
   apuntes_.push_back({"portapapeles", "", texto, ""});
 }
 
-void InterfazGuionada::Imprimir(const Informe& informe) {
+void InterfazGuionada::HacerImprimir(const Informe& informe) {
   apuntes_.push_back({"imprimir", informe.título, "", ""});
 }
 
