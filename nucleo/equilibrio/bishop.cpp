@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "equilibrio/dovelas.h"
+#include "equilibrio/instantaneos.h"
 #include "equilibrio/puertas.h"
 #include "proyecto/compat.h"
 #include "proyecto/fallos.h"
@@ -242,6 +243,7 @@ void DovelasDelMétodo(Proyecto& p, Interfaz& ui) {
           "Cambie los valores si lo requiere.");
     devolver();
   }
+  if (pase) CalcularParámetrosInstantáneos(p, ui);
 
   if (Mayúsculas(Recortar(pi.LetraUsaParámetrosInstantáneos)) == "S") {
     const long n = p.NúmeroBordes - 1;
@@ -349,6 +351,7 @@ void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& o
   }
   if (!PuertaGrieta(p, ui)) return;
 
+  PasePrevioInstantáneo(p);
   const HistoriaGuardada historia(p);
   p.NúmeroIteraciones = 0;
   if (Mayúsculas(p.TipoDeMaterial) == "R" && !pi.UsaParámetrosInstantáneos) {

@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "equilibrio/bishop.h"
 #include "equilibrio/dovelas.h"
+#include "equilibrio/instantaneos.h"
 #include "equilibrio/puertas.h"
 #include "equilibrio/form13.h"
 #include "equilibrio/form9.h"
@@ -448,18 +450,13 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
   }
 
   // Preparation
-  const bool casoGráfico = par.UsaParámetrosInstantáneos && par.ParámetrosInstantáneos == 3;
-  PrepararDovelas(p, ui, casoGráfico);
+  // The slices, with the values of an instantaneous pass kept and made around the stages.
+  PasePrevioInstantáneo(p);
+  DovelasDelMétodo(p, ui);
   const long n = p.NúmeroBordes - 1;
   if (n < 4) {
     ui.Mensaje(kTextoPocasDovelas, kTítuloPocasDovelas);
     return;
-  }
-  if (letraS) {
-    const double π = 4 * std::atan(1.0);
-    auto& d = p.TablaDovelas;
-    d.TanFricciónBase.RedimensionarConservando(std::max<long>(d.TanFricciónBase.Tamaño(), n));
-    for (long i = 1; i <= n; ++i) d.TanFricciónBase[i] = std::tan(π * d.FricciónBase[i] / 180);
   }
 
   // From here on the floating-point flags speak of this method alone: the net before the results

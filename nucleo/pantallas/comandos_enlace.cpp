@@ -3,6 +3,7 @@
 
 #include "equilibrio/bishop.h"
 #include "equilibrio/fellenius.h"
+#include "equilibrio/instantaneos.h"
 #include "equilibrio/janbu.h"
 #include "equilibrio/leshchinsky.h"
 #include "pantallas/comandos_archivo.h"
@@ -10,12 +11,13 @@
 #include "equilibrio/constantes.h"
 #include "pantallas/constantes_elementos.h"
 #include "pantallas/form15.h"
-#include "pantallas/form18.h"
+#include "equilibrio/form18.h"
 #include "pantallas/form34.h"
 #include "pantallas/form5.h"
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
+#include "pantallas/estratos_roca.h"
 #include "pantallas/resultados.h"
 
 namespace lomaterra {
@@ -38,6 +40,8 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MenúEliminarNivelFreático"] = MenúEliminarNivelFreático;
   a["MenúInformación"] = MenúInformación;
   a["CaracterísticasGeomecánicasSuelos"] = CaracterísticasGeomecánicasSuelos;
+  a["ParámetrosCaracterizaciónRocaSinLaboratorio"] = ParámetrosCaracterizaciónRocaSinLaboratorio;
+  a["ParámetrosDeCaracterizaciónRocaConLaboratorio"] = ParámetrosDeCaracterizaciónRocaConLaboratorio;
   a["MénuGeometríaEntrePuntosSuperficieFalla"] = MénuGeometríaEntrePuntosSuperficieFalla;
   a["CargasUniformes"] = CargasUniformes;
   a["CargasPuntuales"] = CargasPuntuales;
@@ -46,7 +50,9 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
+  a["MétodoJanbuEnRocas"] = MétodoJanbuEnRocas;
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
+  a["CálculoParámetrosInstantáneos"] = CálculoParámetrosInstantáneos;
   a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
   a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
   a["ResultadosCálculoRocas"] = ResultadosCálculoRocas;
