@@ -6,6 +6,7 @@
 #include "equilibrio/instantaneos.h"
 #include "equilibrio/janbu.h"
 #include "equilibrio/leshchinsky.h"
+#include "equilibrio/leshchinsky_rocas.h"
 #include "pantallas/comandos_archivo.h"
 #include "pantallas/comandos_coordenadas.h"
 #include "equilibrio/constantes.h"
@@ -53,6 +54,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MétodoJanbuEnRocas"] = MétodoJanbuEnRocas;
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
   a["CálculoParámetrosInstantáneos"] = CálculoParámetrosInstantáneos;
+  a["ProcesoIterativoEnRocas"] = ProcesoIterativoEnRocas;
   a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
   a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
   a["ResultadosCálculoRocas"] = ResultadosCálculoRocas;
