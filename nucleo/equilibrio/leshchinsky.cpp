@@ -81,7 +81,7 @@ double DatosVariacionales::T(long i, double σ) const {
   return (σ - u[k]) * t[k] + c[k];
 }
 
-DatosVariacionales LeerDatosVariacionales(const Proyecto& p) {
+DatosVariacionales LeerDatosVariacionales(const Proyecto& p, bool pesoEquivalente) {
   const auto& d = p.TablaDovelas;
   DatosVariacionales dv;
   const long n = p.NúmeroBordes - 1;
@@ -114,7 +114,7 @@ DatosVariacionales LeerDatosVariacionales(const Proyecto& p) {
     dv.p[k] = d.PresiónPorosMedia.Leer(i);
     // Water standing over the surface enters the column of the differential equation as a
     // weighted mean of soil and water, unless a rapid drawdown has taken it away.
-    if (dv.yw[k] > dv.yt[k] && !p.DesembalseRápido)
+    if (pesoEquivalente && dv.yw[k] > dv.yt[k] && !p.DesembalseRápido)
       dv.ge[k] = Div((dv.yt[k] - dv.y[k]) * dv.gm[k] + (dv.yw[k] - dv.yt[k]), dv.yw[k] - dv.y[k],
                      "el peso unitario equivalente de la columna");
     else

@@ -320,7 +320,8 @@ void ProcesoIterativoEnRocas(Proyecto& p, Interfaz& ui) {
   }
 
   LimpiarExcepcionesFlotantes();
-  CorridaRocas cr{p, ui, LeerDatosVariacionales(p), LeerBasesRoca(p), {}};
+  // The column of the differential equation in rock is gm itself, without water over the surface.
+  CorridaRocas cr{p, ui, LeerDatosVariacionales(p, false), LeerBasesRoca(p), {}};
   ComprobarExponentes(p, cr.r, n);
   const auto& d = p.TablaDovelas;
 
