@@ -22,10 +22,6 @@ TEST(HoekBrown, EjemploPublicadoDeHammah) {
   EXPECT_DOUBLE_EQ(intacta.s, 1.0);
   EXPECT_DOUBLE_EQ(intacta.m, 12.0);
   EXPECT_NEAR(ExponenteHoekBrown(100), 0.5, 0.0001);
-  // Full disturbance lowers both: GSI 50, D 1 gives m = mi·e^(−50/14), s = e^(−50/6).
-  const ConstantesMacizo dañada = ConstantesHoekBrown(10, 50, 1);
-  EXPECT_NEAR(dañada.m, 10 * 0.0281157, 1e-6);
-  EXPECT_NEAR(dañada.s, 0.000240369, 1e-8);
 }
 
 TEST(HoekBrown, SerieDelArcoSeno) {
@@ -74,12 +70,6 @@ TEST(HoekBrown, AjusteDeEnsayos) {
   EXPECT_NEAR(origen.m, 4000.0 / 30 / 100, 1e-9);
   // Two pairs of one σ3 leave no slope.
   EXPECT_THROW(AjustarEnsayos({50, 60}, {10, 10}, 100, false), FalloAritmético);
-}
-
-TEST(HoekBrown, FricciónNulaEnLaResistenciaAlCorte) {
-  EXPECT_THROW(ResistenciaCorteMacizo(1, 0.01, 100, 0), FalloAritmético);
-  // The empirical friction of a very poor mass with mi = 1 falls to 0: 0.424·5 − 0.04 − 6 < 0.
-  EXPECT_EQ(EquivalenteEmpírico(1, 100, 5).fricción, 0);
 }
 
 }  // namespace

@@ -67,6 +67,17 @@ TEST(MétodosEnEjemplos, RocaPorLeshchinskyYSegundoPaseInstantáneo) {
   ASSERT_TRUE(t && t->tipo == ValorJson::Lista && !t->lista.empty());
   EXPECT_EQ(t->lista.back().texto,
             "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para suelos.");
+  // Before the command the method refuses the letter "S"; keeping the values the pass says so.
+  const ValorJson rechazo = Correr("instantaneos_tras_janbu.cod", "MétodoJanbu --respuestas NS");
+  t = rechazo.Campo("transcripción");
+  ASSERT_TRUE(t && !t->lista.empty());
+  EXPECT_NE(t->lista.back().texto.find("No es el camino:"), std::string::npos);
+  const ValorJson mismos = Correr("instantaneos_tras_janbu.cod", "CálculoParámetrosInstantáneos --respuestas SSSNSS");
+  t = mismos.Campo("transcripción");
+  ASSERT_TRUE(t && t->lista.size() > 2);
+  bool reutilizó = false;
+  for (const auto& a : t->lista) reutilizó |= a.texto.find("Se utilizan los parámetros de corte ya obtenidos") != std::string::npos;
+  EXPECT_TRUE(reutilizó);
 }
 
 }  // namespace
