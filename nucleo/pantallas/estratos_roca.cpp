@@ -333,6 +333,8 @@ void PantallaEstratosRoca::Aceptar(Interfaz& ui) {
   };
   std::vector<Resultado> res;
   double σ3max = 0;
+  // The net below must see this arithmetic only, not what the window did while the screen waited.
+  LimpiarExcepcionesFlotantes();
   for (std::size_t k = 0; k < filas_.size(); ++k) {
     const Fila& f = filas_[k];
     Resultado r{};
