@@ -49,8 +49,10 @@ void CálculoParámetrosInstantáneos(Proyecto& p, Interfaz& ui) {
   }
   if (caso == 0) {
     ui.Mensaje(
-        "Indique en el menú Equilibrio Límite, en la Opción 'Parámetros de cálculo iniciales, Sí los "
-        "parámetros instantáneos lo va hacer por el método Puntual (Caso 1) o ENTRE PUNTOS (Caso 2) "
+        "Indique en el menú Equilibrio Límite, en la Opción 'Parámetros de cálculo iniciales, Sí "
+        "los "
+        "parámetros instantáneos lo va hacer por el método Puntual (Caso 1) o ENTRE PUNTOS (Caso "
+        "2) "
         "o por GRAFICA (Caso 3)",
         "Defina la forma de calcularlos:");
     return;
@@ -80,11 +82,13 @@ void CálculoParámetrosInstantáneos(Proyecto& p, Interfaz& ui) {
       p.ReutilizarParámetrosInstantáneos = true;
     } else if (caso == 1 || caso == 2) {
       ui.Mensaje(
-          "Ud. va a calcular con nuevos parámetros instantáneos en función de los últimos esfuerzos",
+          "Ud. va a calcular con nuevos parámetros instantáneos en función de los últimos "
+          "esfuerzos",
           "OJO:");
     } else {
       ui.Mensaje(
-          "Ud. en la sesión de Parámetros de cálculo inciales, ha seleccioando la opción 3 para los "
+          "Ud. en la sesión de Parámetros de cálculo inciales, ha seleccioando la opción 3 para "
+          "los "
           "parámetros instantáneos. Ejecutando su repuesta anterior, el programa no hará ningún "
           "recálculo .");
       return;
@@ -131,12 +135,14 @@ void CálculoParámetrosInstantáneos(Proyecto& p, Interfaz& ui) {
 void PasePrevioInstantáneo(Proyecto& p) {
   const auto& pi = p.ParámetrosIniciales;
   const int caso = pi.ParámetrosInstantáneos;
-  if (!pi.UsaParámetrosInstantáneos || (caso != 1 && caso != 2) || p.ReutilizarParámetrosInstantáneos)
+  if (!pi.UsaParámetrosInstantáneos || (caso != 1 && caso != 2) ||
+      p.ReutilizarParámetrosInstantáneos)
     return;
   const auto& d = p.TablaDovelas;
   const long n = d.EsfuerzoTangencial.Tamaño();
-  const double F =
-      p.NúmeroIteraciones >= 1 ? p.HistoriaIteraciones.FactorDeSeguridad.Leer(p.NúmeroIteraciones) : 0;
+  const double F = p.NúmeroIteraciones >= 1
+                       ? p.HistoriaIteraciones.FactorDeSeguridad.Leer(p.NúmeroIteraciones)
+                       : 0;
   p.ResistenciaMovilizadaPrevia.Redimensionar(n);
   p.EsfuerzoEfectivoPrevio.Redimensionar(n);
   for (long i = 1; i <= n; ++i) {
@@ -167,8 +173,8 @@ RectasInstantáneas RectasEntrePuntos(const Proyecto& p) {
   for (long i = 1; i <= n; ++i) {
     const bool igualSiguiente = i < n && MismoMaterial(p, i, i + 1);
     const bool igualAnterior = i > 1 && MismoMaterial(p, i, i - 1);
-    const bool entra = igualSiguiente || (i < n && i > 1 && k >= 1 && igualAnterior) ||
-                       (i == n && igualAnterior);
+    const bool entra =
+        igualSiguiente || (i < n && i > 1 && k >= 1 && igualAnterior) || (i == n && igualAnterior);
     if (entra) {
       ++k;
       Sy += y[i];
@@ -207,7 +213,8 @@ void CalcularParámetrosInstantáneos(Proyecto& p, Interfaz& ui) {
   const double π = 4 * std::atan(1.0);
   auto& d = p.TablaDovelas;
   const long n = p.NúmeroBordes - 1;
-  const bool reutilizar = pi.ParámetrosInstantáneosDisponibles && p.ReutilizarParámetrosInstantáneos;
+  const bool reutilizar =
+      pi.ParámetrosInstantáneosDisponibles && p.ReutilizarParámetrosInstantáneos;
   if (reutilizar && (caso == 1 || caso == 2)) {
     ui.Mensaje("Se utilizan los parámetros de corte ya obtenidos anteriormente.",
                "No hay cálculo de parámetros:");
@@ -250,8 +257,8 @@ void CalcularParámetrosInstantáneos(Proyecto& p, Interfaz& ui) {
       const std::size_t k = Z(i);
       const double σ1 = d.EsfuerzoPrincipalMayor[i], σ3 = d.EsfuerzoPrincipalMenor[i];
       const char* dónde = "la fricción instantánea de una dovela (sigma 1 igual a sigma 3)";
-      const double φ = std::atan(
-          Raíz(Div(d.m_Base[i] * d.C_SimpleBase[i], 2 * (σ1 - σ3), dónde) + 1, dónde));
+      const double φ =
+          std::atan(Raíz(Div(d.m_Base[i] * d.C_SimpleBase[i], 2 * (σ1 - σ3), dónde) + 1, dónde));
       t[k] = φ;
       c[k] = p.ResistenciaMovilizadaPrevia[i] - std::tan(φ) * p.EsfuerzoEfectivoPrevio[i];
       if (c[k] < 0) c[k] = 0;

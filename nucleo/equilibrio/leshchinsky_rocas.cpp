@@ -128,7 +128,8 @@ void SistemaNewtonRocas(const DatosVariacionales& dv, const BasesRoca& r,
   FilaVariacional uno = fila, cero = fila;
   uno.F = 1;
   cero.F = 0;
-  const SumasEquilibrio s1 = SumasEquilibrioRocas(dv, r, uno), s0 = SumasEquilibrioRocas(dv, r, cero);
+  const SumasEquilibrio s1 = SumasEquilibrioRocas(dv, r, uno),
+                        s0 = SumasEquilibrioRocas(dv, r, cero);
   J(n + 1, 3) = s1.horizontal - s0.horizontal;
   J(n + 2, 3) = s1.vertical - s0.vertical;
   J(n + 3, 3) = s1.momento - s0.momento;
@@ -213,7 +214,8 @@ struct CorridaRocas {
       menor[k] = σ3 - u;
       mayor[k] = Finito(Pot(e.w, 1 - r.a[k], "el esfuerzo principal mayor") * r.σc[k] + σ3 - u,
                         "el esfuerzo principal mayor");
-      tang[k] = Finito(Div(e.tf, fila.F, "los esfuerzos tangenciales"), "los esfuerzos tangenciales");
+      tang[k] =
+          Finito(Div(e.tf, fila.F, "los esfuerzos tangenciales"), "los esfuerzos tangenciales");
       efec[k] = e.sn;
       total[k] = u + e.sn;
       sT += tang[k];
@@ -276,7 +278,8 @@ void ComprobarExponentes(const Proyecto& p, const BasesRoca& r, long n) {
     throw FalloAritmético(
         "división por cero en la ley de Hoek y Brown de la dovela " + std::to_string(i) +
         (estrato > 0 ? " (estrato " + std::to_string(estrato) + ")" : std::string()) +
-        ": en la base de las dovelas el exponente a vale 0.65 − GSI/200 solo para GSI menor que 25, "
+        ": en la base de las dovelas el exponente a vale 0.65 − GSI/200 solo para GSI menor que "
+        "25, "
         "y 0 para GSI de 25 o más; este método divide por a. Para ese estrato use un GSI menor que "
         "25 o el método de Janbu aplicado a rocas");
   }
@@ -335,8 +338,8 @@ void ProcesoIterativoEnRocas(Proyecto& p, Interfaz& ui) {
     if (k + 1 < anteriores.size()) cr.fila.σ[k] = anteriores[k + 1];
     const double W = (d.YTalud[i] - d.YBase[i]) * d.PesoUnitarioMedio[i] * d.Ancho[i];
     const double α = std::atan(d.PendienteBase[i]);
-    const double q = std::cos(α) * std::cos(α) * Div(W, d.Ancho[i], "el peso de una dovela") -
-                     cr.dv.u[k];
+    const double q =
+        std::cos(α) * std::cos(α) * Div(W, d.Ancho[i], "el peso de una dovela") - cr.dv.u[k];
     if (const auto x = RaízInicialSigma3(q, cr.r.m[k], cr.r.s[k], cr.r.σc[k]))
       cr.fila.σ[k] = *x + cr.dv.u[k];
   }
@@ -376,7 +379,8 @@ void ProcesoIterativoEnRocas(Proyecto& p, Interfaz& ui) {
           0) {
         ui.Mensaje(
             "No chequea sigma '3' en una dovela. Varie los multiplicadores de Lagrange o el Factor "
-            "de seguridad. A continuación se presentan los valoes de sigma3 para que observe en que "
+            "de seguridad. A continuación se presentan los valoes de sigma3 para que observe en "
+            "que "
             "dovela no chequeó la resistencia al corte",
             "Chequeo de sigma '3'");
         p.DovelaFallida = static_cast<Entero>(i);

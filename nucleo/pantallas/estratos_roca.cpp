@@ -13,11 +13,17 @@ namespace lomaterra {
 
 namespace {
 
-constexpr const char* kCajasFila[] = {
-    "TextoMIntacta",           "TextoGSI",          "TextoMMacizo",
-    "TextoSMacizo",            "TextoPesoUnitarioHúmedo", "TextoPesoUnitarioSaturado",
-    "TextoCompresiónSimple",   "TextoVelocidadCorte",     "TextoVelocidadLongitudinal",
-    "TextoPoisson",            "TextoViscosidad"};
+constexpr const char* kCajasFila[] = {"TextoMIntacta",
+                                      "TextoGSI",
+                                      "TextoMMacizo",
+                                      "TextoSMacizo",
+                                      "TextoPesoUnitarioHúmedo",
+                                      "TextoPesoUnitarioSaturado",
+                                      "TextoCompresiónSimple",
+                                      "TextoVelocidadCorte",
+                                      "TextoVelocidadLongitudinal",
+                                      "TextoPoisson",
+                                      "TextoViscosidad"};
 
 constexpr const char* kTítuloEstratos = "Características de los estratos";
 
@@ -31,8 +37,17 @@ const char* const kNotaRoca =
     "fórmulas empíricas de GSI, mi y compresión simple, sin tomar en cuenta el factor D.";
 
 double Columna(const PantallaEstratosRoca::Fila& f, int c) {
-  const double v[] = {f.mi, f.GSI, f.m, f.s, f.húmedo, f.saturado, f.σc,
-                      f.velocidadCorte, f.velocidadLongitudinal, f.poisson, f.viscosidad};
+  const double v[] = {f.mi,
+                      f.GSI,
+                      f.m,
+                      f.s,
+                      f.húmedo,
+                      f.saturado,
+                      f.σc,
+                      f.velocidadCorte,
+                      f.velocidadLongitudinal,
+                      f.poisson,
+                      f.viscosidad};
   return v[c];
 }
 
@@ -52,13 +67,14 @@ PantallaEstratosRoca::PantallaEstratosRoca(Proyecto& p) : p_(p) {
   título = "Características de los estratos en macizos rocosos";
   nota = kNotaRoca;
   campos = {
-      {"TextoSueloRoca", "Suelo o roca <R>:", "", "Para el análisis en rocas introduzca la letra 'R'"},
+      {"TextoSueloRoca", "Suelo o roca <R>:", "",
+       "Para el análisis en rocas introduzca la letra 'R'"},
       {"TextoTipoDeObra", "Tipo de obra <O/S>:", "", "'O' para túneles y 'S' para taludes"},
       {"TextoFactorPerturbación", "Factor D:", "",
-       "Factor D: Factor por perturbación de la roca por voladura, por trabajo mecanizado o manual."},
+       "Factor D: Factor por perturbación de la roca por voladura, por trabajo mecanizado o "
+       "manual."},
       {"TextoAlturaH", "Altura H (m):", "", "Altura H: Altura del talud o profundidad del túnel."},
-      {"TextoMIntacta", "mi:", "",
-       "Constante que depende de las propiedades de la roca  intacta."},
+      {"TextoMIntacta", "mi:", "", "Constante que depende de las propiedades de la roca  intacta."},
       {"TextoGSI", "GSI:", "", "GSI: Indice de calidad del macizo rocoso."},
       {"TextoMMacizo", "m del macizo:", "", ""},
       {"TextoSMacizo", "s del macizo:", "", ""},
@@ -78,8 +94,8 @@ PantallaEstratosRoca::PantallaEstratosRoca(Proyecto& p) : p_(p) {
   };
   ListaPantalla l;
   l.nombre = "CaracterísticasEstratosEnRoca";
-  l.columnas = {"Estrato", "mi", "GSI", "m", "s", "P.U. húmedo", "P.U. saturado", "C. simple",
-                "Cs", "Cp", "Poisson", "Viscosidad"};
+  l.columnas = {"Estrato",       "mi",        "GSI", "m",  "s",       "P.U. húmedo",
+                "P.U. saturado", "C. simple", "Cs",  "Cp", "Poisson", "Viscosidad"};
   l.alSeleccionar = [this](Interfaz& ui) { Seleccionar(ui); };
   listas.push_back(std::move(l));
   botones.push_back({"BotónModificar", "Modificar", [this](Interfaz& ui) { Modificar(ui); }});
@@ -170,7 +186,8 @@ void PantallaEstratosRoca::Modificar(Interfaz& ui) {
       {"TextoSMacizo", "Debe introducir un número para el parámetro 's'"},
       {"TextoPesoUnitarioHúmedo", "Debe introducir un número en el peso unitario húmedo"},
       {"TextoPesoUnitarioSaturado", "Debe introducir un número en el peso unitario saturado"},
-      {"TextoCompresiónSimple", "Debe introducir un número para la resistencia a la compresión simple"},
+      {"TextoCompresiónSimple",
+       "Debe introducir un número para la resistencia a la compresión simple"},
   };
   for (const auto& c : kNuméricos)
     if (!EsNúmero(texto(c.caja))) {
@@ -193,7 +210,8 @@ void PantallaEstratosRoca::Modificar(Interfaz& ui) {
       return;
     }
     if (número("TextoVelocidadCorte") > número("TextoVelocidadLongitudinal")) {
-      ui.Mensaje("La velocidad de la onda de corte es menor que la velocidad de la onda longitudinal.");
+      ui.Mensaje(
+          "La velocidad de la onda de corte es menor que la velocidad de la onda longitudinal.");
       return;
     }
     if (!EsNúmero(texto("TextoPoisson"))) {
@@ -261,7 +279,8 @@ void PantallaEstratosRoca::Aceptar(Interfaz& ui) {
     return;
   }
   if (!esNúmero("TextoAlturaH")) {
-    ui.Mensaje("Debe introducir un valor apropiado para la altura del talud o profundidad del túnel");
+    ui.Mensaje(
+        "Debe introducir un valor apropiado para la altura del talud o profundidad del túnel");
     return;
   }
   const double H = número("TextoAlturaH");
@@ -284,7 +303,8 @@ void PantallaEstratosRoca::Aceptar(Interfaz& ui) {
           "común).");
       return;
     }
-    const double g = esNúmero("TextoMétodoModuloCortante") ? número("TextoMétodoModuloCortante") : 0;
+    const double g =
+        esNúmero("TextoMétodoModuloCortante") ? número("TextoMétodoModuloCortante") : 0;
     if (g != 1 && g != 2) {
       ui.Mensaje("Debe introducir el número <1> o <2> ");
       return;
@@ -297,7 +317,8 @@ void PantallaEstratosRoca::Aceptar(Interfaz& ui) {
     }
     if (!(H > 0)) {
       ui.Mensaje(
-          "El valor de esta altura es requerida. Debe dar el valor de la altura del talud o carga de "
+          "El valor de esta altura es requerida. Debe dar el valor de la altura del talud o carga "
+          "de "
           "roca sobre techo del túnel.");
       return;
     }
@@ -310,15 +331,18 @@ void PantallaEstratosRoca::Aceptar(Interfaz& ui) {
   for (const Fila& f : filas_) {
     const char* falta = nullptr;
     if (!f.completa)
-      falta = "Faltan datos. Debe introducir las características para todos y cada uno de los estratos";
+      falta =
+          "Faltan datos. Debe introducir las características para todos y cada uno de los estratos";
     else if (!(f.GSI > 0) || !(f.húmedo > 0) || !(f.saturado > 0) || !(f.σc > 0))
       falta =
-          "Faltan datos. Debe introducir el GSI, los pesos unitarios y compresión simple para todos y "
+          "Faltan datos. Debe introducir el GSI, los pesos unitarios y compresión simple para "
+          "todos y "
           "cada uno de los estratos";
     else if (fe && (!(f.velocidadCorte > 0) || !(f.velocidadLongitudinal > 0) || !(f.poisson > 0)))
       falta =
           "Faltan datos. Debe introducir las características para todos los estratos:  Las "
-          "velocidades de la onda, coeficiente de poisson,  en caso de análisis sísmico. En el caso "
+          "velocidades de la onda, coeficiente de poisson,  en caso de análisis sísmico. En el "
+          "caso "
           "de análisis sismico la viscosidad puede ser cero.";
     if (falta) {
       p_.CaracterísticasRocaCompletas = false;
@@ -456,7 +480,8 @@ void PantallaEnsayosRoca::Mostrar() {
   if (alFrente_ >= 1) {
     const auto& ps = pares_[static_cast<std::size_t>(alFrente_ - 1)];
     for (std::size_t j = 0; j < ps.size(); ++j)
-      lp.filas.push_back({std::to_string(j + 1), Formato(ps[j].σ1, "#0.00"), Formato(ps[j].σ3, "#0.00")});
+      lp.filas.push_back(
+          {std::to_string(j + 1), Formato(ps[j].σ1, "#0.00"), Formato(ps[j].σ3, "#0.00")});
   }
   if (lp.seleccionada > static_cast<int>(lp.filas.size())) lp.seleccionada = 0;
 }
@@ -530,20 +555,22 @@ void PantallaEnsayosRoca::Aceptar(Interfaz& ui) {
   }
   for (std::size_t s = 0; s < pares_.size(); ++s)
     if (pares_[s].size() < 2) {
-      ui.Mensaje("Ud. no ha dado los suficientes puntos para el estrato No " + std::to_string(s + 1));
+      ui.Mensaje("Ud. no ha dado los suficientes puntos para el estrato No " +
+                 std::to_string(s + 1));
       return;
     }
   for (std::size_t s = 0; s < pares_.size(); ++s)
     if (!(p_.Estrato.C_Simple.Leer(static_cast<long>(s + 1)) > 0)) {
-      ui.Mensaje("Falta la resistencia a la compresión simple del estrato No " + std::to_string(s + 1) +
+      ui.Mensaje("Falta la resistencia a la compresión simple del estrato No " +
+                 std::to_string(s + 1) +
                  ". Désela primero en la opción 'Sin datos de pruebas de laboratorio'.");
       return;
     }
   // The fits first, with their questions; the strata change only when all have been made.
   std::vector<AjusteEnsayo> ajustes;
   for (std::size_t s = 0; s < pares_.size(); ++s) {
-    const bool intacta =
-        ui.Pregunta("Los datos corresponden a roca intacta para el estrato " + std::to_string(s + 1));
+    const bool intacta = ui.Pregunta("Los datos corresponden a roca intacta para el estrato " +
+                                     std::to_string(s + 1));
     std::vector<double> σ1, σ3;
     for (const Par& q : pares_[s]) {
       σ1.push_back(q.σ1);

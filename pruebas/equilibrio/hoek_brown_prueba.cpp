@@ -64,8 +64,8 @@ TEST(HoekBrown, AjusteDeEnsayos) {
   EXPECT_EQ(intacta.s, 1);
   // y = 200σ3 − 1000 has a negative intercept: s = 0 and the line through the origin,
   // m = Σy / Σx / σc = (1000 + 3000) / 30 / 100.
-  const AjusteEnsayo origen = AjustarEnsayos({10 + std::sqrt(1000.0), 20 + std::sqrt(3000.0)},
-                                             {10, 20}, 100, false);
+  const AjusteEnsayo origen =
+      AjustarEnsayos({10 + std::sqrt(1000.0), 20 + std::sqrt(3000.0)}, {10, 20}, 100, false);
   EXPECT_EQ(origen.s, 0);
   EXPECT_NEAR(origen.m, 4000.0 / 30 / 100, 1e-9);
   // Two pairs of one σ3 leave no slope.

@@ -77,7 +77,8 @@ TEST(LeshchinskyRocas, JacobianoContraDiferenciasFinitas) {
     SistemaNewtonRocas(dv, r, menos, Jx, Rmenos);
     for (long i = 1; i <= m; ++i) {
       // R holds the residuals with their sign changed.
-      const double numérica = -(Rmás[static_cast<std::size_t>(i)] - Rmenos[static_cast<std::size_t>(i)]) / (2 * h);
+      const double numérica =
+          -(Rmás[static_cast<std::size_t>(i)] - Rmenos[static_cast<std::size_t>(i)]) / (2 * h);
       EXPECT_NEAR(J(i, j), numérica, 1e-5 * std::max(1.0, std::fabs(numérica))) << i << ", " << j;
     }
   }
@@ -147,9 +148,10 @@ TEST(JanbuRocas, PuertasYEstratosDesdeElGSI) {
   InterfazGuionada ui;
   ASSERT_EQ(EjecutarComando(MétodoJanbuEnRocas, p, ui), FinDeComando::Normal);
   EXPECT_EQ(ui.Textos().front(), kAviso);
-  EXPECT_EQ(ui.Textos().back(),
-            "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para "
-            "Rocas.");
+  EXPECT_EQ(
+      ui.Textos().back(),
+      "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para "
+      "Rocas.");
   // mi = 10, GSI = 20, σc = 60: c = 0.0098·60·e^((0.0455 − 0.0073 ln 10)·20) = 1.04372,
   // φ = 0.424·20 − 0.0016·400 − 6 + 16 ln 10 = 38.6814.
   EXPECT_NEAR(p.Estrato.Cohesión[1], 1.04372, 1e-5);

@@ -114,8 +114,8 @@ EstadoHoekBrown RelacionesHoekBrown(double σ3, double u, double m, double s, do
   return e;
 }
 
-AjusteEnsayo AjustarEnsayos(const std::vector<double>& σ1, const std::vector<double>& σ3,
-                            double σc, bool rocaIntacta) {
+AjusteEnsayo AjustarEnsayos(const std::vector<double>& σ1, const std::vector<double>& σ3, double σc,
+                            bool rocaIntacta) {
   const char* dónde = "el ajuste por mínimos cuadrados de los ensayos";
   const double N = static_cast<double>(σ3.size());
   double Sx = 0, Sy = 0, Sxy = 0, Sxx = 0;

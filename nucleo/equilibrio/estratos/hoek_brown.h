@@ -53,9 +53,9 @@ double ResistenciaCorteMacizo(double m, double s, double σc, double fricciónGr
 // The Hoek-Brown relations at the base of a slice, as the variational method in rock uses them,
 // for the total minor principal stress σ3 and the pore pressure u.
 struct EstadoHoekBrown {
-  double w = 0, L = 0;   // w = (σ3 − u)·m/σc + s; L = w^(1 − a)
-  double N = 0, R = 0;   // N = L^(1/(1−a))·(σc/a) / ((2/a)·L + m); R = √(m/(L/a) + 1)
-  double tf = 0, sn = 0; // shear strength R·N and effective normal stress N + σ3 − u
+  double w = 0, L = 0;      // w = (σ3 − u)·m/σc + s; L = w^(1 − a)
+  double N = 0, R = 0;      // N = L^(1/(1−a))·(σc/a) / ((2/a)·L + m); R = √(m/(L/a) + 1)
+  double tf = 0, sn = 0;    // shear strength R·N and effective normal stress N + σ3 − u
   double dtf = 0, dsn = 0;  // their derivatives with respect to σ3
 };
 EstadoHoekBrown RelacionesHoekBrown(double σ3, double u, double m, double s, double a, double σc);
@@ -65,7 +65,7 @@ EstadoHoekBrown RelacionesHoekBrown(double σ3, double u, double m, double s, do
 struct AjusteEnsayo {
   double m = 0, s = 0;
 };
-AjusteEnsayo AjustarEnsayos(const std::vector<double>& σ1, const std::vector<double>& σ3,
-                            double σc, bool rocaIntacta);
+AjusteEnsayo AjustarEnsayos(const std::vector<double>& σ1, const std::vector<double>& σ3, double σc,
+                            bool rocaIntacta);
 
 }  // namespace lomaterra
