@@ -499,7 +499,7 @@ void PantallaEnsayosRoca::Activar(Interfaz& ui) {
       for (long j = 1; j <= r.PuntosEnsayo.Leer(s); ++j)
         pares_[static_cast<std::size_t>(s - 1)].push_back(
             {r.EnsayoSigma1.Leer(s, j), r.EnsayoSigma3.Leer(s, j)});
-  alFrente_ = p_.NúmeroEstratos == 1 ? 1 : 0;
+  alFrente_ = 0;  // no stratum in front until one is chosen in the list
   lista("ListaDeEnsayos").seleccionada = 0;
   texto("TextoSigma1").clear();
   texto("TextoSigma3").clear();
