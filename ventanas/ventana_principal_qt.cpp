@@ -89,6 +89,7 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
   líneaEstado_->setTextFormat(Qt::PlainText);
   statusBar()->addWidget(líneaEstado_, 1);
   ui_.AlEstado([this](const QString& t) { líneaEstado_->setText(t); });
+  ui_.AlNombreActual([this] { return Q(proyecto_.Ventana.NombreArchivo); });
 
   connect(textoProyecto_, &QPlainTextEdit::textChanged, this, [this] {
     if (refrescando_) return;
@@ -300,6 +301,9 @@ void VentanaPrincipalQt::Refrescar() {
     líneaEstado_->setText(Q(v.TextoEstado));
   }
   dibujo_->Actualizar();
+  if (!dibujo_->Aviso().empty() && dibujo_->Aviso() != últimoAviso_)
+    líneaEstado_->setText(Q(dibujo_->Aviso()));
+  últimoAviso_ = dibujo_->Aviso();
   refrescando_ = false;
 }
 
