@@ -12,10 +12,12 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
 #include <algorithm>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -45,6 +47,28 @@ QStringList CarpetasPorDefecto() {
   r << QString::fromUtf8(LOMATERRA_AYUDA_FUENTE);
 #endif
   return r;
+}
+
+// A box asked while a screen is open stands beside that screen, not over it: the user reads the
+// screen (a factor of safety, the sums of an iteration) while answering.
+void ApartarDeLaPantalla(QDialog& caja, QWidget* padre) {
+  auto* vista = dynamic_cast<VistaPantalla*>(padre);
+  if (!vista || !vista->isVisible()) return;
+  caja.adjustSize();
+  const QRect marco = vista->frameGeometry();
+  const QSize t = caja.frameGeometry().size().expandedTo(caja.size());
+  const QRect área = vista->screen() ? vista->screen()->availableGeometry() : QRect();
+  const QPoint opciones[] = {{marco.left(), marco.bottom() + 8},
+                             {marco.right() + 8, marco.top()},
+                             {marco.left() - t.width() - 8, marco.top()},
+                             {marco.left(), marco.top() - t.height() - 8}};
+  QPoint destino = opciones[0];
+  for (const QPoint& o : opciones)
+    if (!área.isValid() || área.contains(QRect(o, t))) {
+      destino = o;
+      break;
+    }
+  caja.move(destino);
 }
 
 }  // namespace
@@ -164,14 +188,23 @@ std::unique_ptr<CajaDeMensaje> CrearCaja(const std::string& texto, const std::st
                                          padre);
 }
 
-bool CargarTraducciónDeQt(QCoreApplication& app) {
+std::string TextoDeEntrada(const QString& texto) {
+  static const QRegularExpression kComaDecimal(
+      QStringLiteral("^\\s*[+-]?(\\d+,\\d*|,\\d+)([eEdD][+-]?\\d+)?\\s*$"));
+  if (!kComaDecimal.match(texto).hasMatch()) return S(texto);
+  QString conPunto = texto;
+  conPunto.replace(',', '.');
+  return S(conPunto);
+}
+
+QTranslator* CargarTraducciónDeQt(QCoreApplication& app) {
   auto* traductor = new QTranslator(&app);
   if (traductor->load(QLocale(QLocale::Spanish, QLocale::Spain), QStringLiteral("qtbase"),
                       QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
       app.installTranslator(traductor))
-    return true;
+    return traductor;
   delete traductor;
-  return false;
+  return nullptr;
 }
 
 InterfazQt::InterfazQt(QWidget* ventana) : ventana_(ventana) {}
@@ -191,13 +224,16 @@ void InterfazQt::HacerMensaje(const std::string& texto, const std::string& títu
     return;
   }
   MostrarLaQueSeActiva();
-  CrearCaja(texto, título, false, Padre())->exec();
+  auto caja = CrearCaja(texto, título, false, Padre());
+  ApartarDeLaPantalla(*caja, activando_ ? activando_ : Padre());
+  caja->exec();
 }
 
 bool InterfazQt::HacerPregunta(const std::string& texto, const std::string& título) {
   if (sustituto_) return sustituto_->Pregunta(texto, título);
   MostrarLaQueSeActiva();
   auto caja = CrearCaja(texto, título, true, Padre());
+  ApartarDeLaPantalla(*caja, activando_ ? activando_ : Padre());
   caja->exec();
   return caja->clickedButton() == caja->defaultButton();
 }

@@ -16,6 +16,7 @@
 
 class QAbstractButton;
 class QCoreApplication;
+class QTranslator;
 class QDialogButtonBox;
 class QFileDialog;
 class QLabel;
@@ -127,7 +128,12 @@ class InterfazQt : public Interfaz {
 
 // Loads Qt's Spanish catalogue (qtbase_es) into the application: the file dialogs and Qt's standard
 // buttons then speak Spanish. False when the catalogue is not installed.
-bool CargarTraducciónDeQt(QCoreApplication& app);
+// Returns the installed translator (owned by the application), or null.
+QTranslator* CargarTraducciónDeQt(QCoreApplication& app);
+
+// The text of an entry box as the core reads it: a number typed with a decimal comma, as a Spanish
+// user types it ("12,5"), is handed over with a point ("12.5"); any other text goes as it is.
+std::string TextoDeEntrada(const QString& texto);
 
 // QString from and to the UTF-8 strings of the core.
 inline QString Q(const std::string& s) {

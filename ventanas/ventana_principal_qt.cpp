@@ -177,9 +177,9 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
   formulario->addRow(QStringLiteral("Y (m):"), textoY_);
   vertical->addLayout(formulario);
   connect(textoX_, &QLineEdit::textEdited, this,
-          [this](const QString& t) { proyecto_.Ventana.TextoX = S(t); });
+          [this](const QString& t) { proyecto_.Ventana.TextoX = TextoDeEntrada(t); });
   connect(textoY_, &QLineEdit::textEdited, this,
-          [this](const QString& t) { proyecto_.Ventana.TextoY = S(t); });
+          [this](const QString& t) { proyecto_.Ventana.TextoY = TextoDeEntrada(t); });
 
   auto* botones = new QHBoxLayout;
   QPushButton* agregar = Botón("BotónAgregar", QStringLiteral("Agre&gar"), panel);
@@ -209,8 +209,8 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
 
 void VentanaPrincipalQt::Sincronizar() {
   EstadoVentana& v = proyecto_.Ventana;
-  v.TextoX = S(textoX_->text());
-  v.TextoY = S(textoY_->text());
+  v.TextoX = TextoDeEntrada(textoX_->text());
+  v.TextoY = TextoDeEntrada(textoY_->text());
   const auto filas = listaCoordenadas_->selectionModel()->selectedRows();
   v.FilaSeleccionada = filas.isEmpty() ? 0 : filas.front().row() + 1;
 }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "equilibrio/puertas.h"
+#include "pantallas/valores_posibles.h"
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
@@ -100,6 +101,9 @@ void Form18::Modificar(Interfaz& ui) {
     ui.Mensaje("Debe introducir un número para la presión de poros");
     return;
   }
+  if (!CohesiónYFricciónPosibles(ui, ANúmero(texto("TextoCambioCohesión")),
+                                 ANúmero(texto("TextoCambioFricción"))))
+    return;
   const std::size_t i = Z(l.seleccionada);
   cohesión_[i] = ANúmero(texto("TextoCambioCohesión"));
   fricción_[i] = ANúmero(texto("TextoCambioFricción"));
