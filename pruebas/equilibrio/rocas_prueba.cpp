@@ -124,6 +124,17 @@ TEST(LeshchinskyRocas, TaludQueConverge) {
   ASSERT_EQ(ui2.Textos().back(), kTextoFinLeshchinskyRocas);
   EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones],
               otro.HistoriaIteraciones.FactorDeSeguridad[otro.NúmeroIteraciones], 1e-3);
+  // 200 slices (203 unknowns: the pivots are checked one by one, their product would overflow)
+  // from µ2 = 50 reach the factor of 30 slices within the change of the slicing.
+  Proyecto fino = TaludDeRoca(20);
+  fino.ParámetrosIniciales.NúmeroDovelas = 200;
+  fino.ParámetrosIniciales.Multiplicador2 = 50;
+  InterfazGuionada ui3;
+  EjecutarComando(ProcesoIterativoEnRocas, fino, ui3);
+  ASSERT_EQ(ui3.Textos().back(), kTextoFinLeshchinskyRocas);
+  EXPECT_GT(fino.NúmeroBordes, 200);
+  EXPECT_NEAR(fino.HistoriaIteraciones.FactorDeSeguridad[fino.NúmeroIteraciones],
+              otro.HistoriaIteraciones.FactorDeSeguridad[otro.NúmeroIteraciones], 0.01);
   const auto& d = p.TablaDovelas;
   for (long i = 1; i < p.NúmeroBordes; ++i) {
     EXPECT_GT(d.EsfuerzoPrincipalMayor[i], d.EsfuerzoPrincipalMenor[i]) << i;
