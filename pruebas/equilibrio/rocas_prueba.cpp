@@ -104,42 +104,39 @@ Proyecto TaludDeRoca(double gsi) {
   return p;
 }
 
-TEST(LeshchinskyRocas, TaludQueConverge) {
+// The rock slope from F and µ2 on the given number of slices, run to convergence.
+Proyecto Convergido(double F, double µ2, double dovelas) {
   Proyecto p = TaludDeRoca(20);
-  p.Estrato.C_Simple[1] = 60;
+  auto& pi = p.ParámetrosIniciales;
+  pi.FSInicial = F;
+  pi.Multiplicador2 = µ2;
+  pi.NúmeroDovelas = dovelas;
   InterfazGuionada ui;
-  ASSERT_EQ(EjecutarComando(ProcesoIterativoEnRocas, p, ui), FinDeComando::Normal);
-  const auto textos = ui.Textos();
-  ASSERT_FALSE(textos.empty());
-  ASSERT_EQ(textos.back(), kTextoFinLeshchinskyRocas) << textos.back();
+  EXPECT_EQ(EjecutarComando(ProcesoIterativoEnRocas, p, ui), FinDeComando::Normal);
+  EXPECT_EQ(ui.Textos().back(), kTextoFinLeshchinskyRocas);
+  return p;
+}
+
+double FS(const Proyecto& p) {
+  return p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones];
+}
+
+TEST(LeshchinskyRocas, TaludQueConverge) {
+  const Proyecto p = Convergido(1.5, 70, 30);
   EXPECT_LT(std::fabs(p.SumaFuerzasHorizontales), 0.001);
   EXPECT_LT(std::fabs(p.SumaFuerzasVerticales), 0.001);
   EXPECT_LT(std::fabs(p.SumaMomentos), 0.009);
-  // Another start, F = 2.5 and µ2 = 55, ends at the same factor.
-  Proyecto otro = TaludDeRoca(20);
-  otro.ParámetrosIniciales.FSInicial = 2.5;
-  otro.ParámetrosIniciales.Multiplicador2 = 55;
-  InterfazGuionada ui2;
-  EjecutarComando(ProcesoIterativoEnRocas, otro, ui2);
-  ASSERT_EQ(ui2.Textos().back(), kTextoFinLeshchinskyRocas);
-  EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones],
-              otro.HistoriaIteraciones.FactorDeSeguridad[otro.NúmeroIteraciones], 1e-3);
-  // 200 slices (203 unknowns: the pivots are checked one by one, their product would overflow)
-  // from µ2 = 50 reach the factor of 30 slices within the change of the slicing.
-  Proyecto fino = TaludDeRoca(20);
-  fino.ParámetrosIniciales.NúmeroDovelas = 200;
-  fino.ParámetrosIniciales.Multiplicador2 = 50;
-  InterfazGuionada ui3;
-  EjecutarComando(ProcesoIterativoEnRocas, fino, ui3);
-  ASSERT_EQ(ui3.Textos().back(), kTextoFinLeshchinskyRocas);
-  EXPECT_GT(fino.NúmeroBordes, 200);
-  EXPECT_NEAR(fino.HistoriaIteraciones.FactorDeSeguridad[fino.NúmeroIteraciones],
-              otro.HistoriaIteraciones.FactorDeSeguridad[otro.NúmeroIteraciones], 0.01);
   const auto& d = p.TablaDovelas;
   for (long i = 1; i < p.NúmeroBordes; ++i) {
     EXPECT_GT(d.EsfuerzoPrincipalMayor[i], d.EsfuerzoPrincipalMenor[i]) << i;
     EXPECT_NEAR(d.EsfuerzoNormalTotal[i], d.EsfuerzoNormalEfectivo[i] + d.PresiónPoros[i], 1e-12);
   }
+  // Another start ends at the same factor; 200 slices (203 unknowns: the pivots are checked one
+  // by one, their product would overflow) reach it within the change of the slicing.
+  EXPECT_NEAR(FS(Convergido(2.5, 55, 30)), FS(p), 1e-3);
+  const Proyecto fino = Convergido(1.5, 50, 200);
+  EXPECT_GT(fino.NúmeroBordes, 200);
+  EXPECT_NEAR(FS(fino), FS(p), 0.01);
 }
 
 TEST(LeshchinskyRocas, GSIDe25OMásTerminaDiciendoPorQué) {
