@@ -22,6 +22,7 @@
 
 #include "proyecto/compat.h"
 #include "proyecto/proyecto.h"
+#include "salida/factores.h"
 #include "vista_seccion.h"
 
 namespace lomaterra {
@@ -89,6 +90,10 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
   líneaEstado_->setTextFormat(Qt::PlainText);
   statusBar()->addWidget(líneaEstado_, 1);
   ui_.AlEstado([this](const QString& t) { líneaEstado_->setText(t); });
+  etiquetaFactores_ = new QLabel(this);
+  etiquetaFactores_->setObjectName("EtiquetaFactores");
+  etiquetaFactores_->setTextFormat(Qt::PlainText);
+  statusBar()->addPermanentWidget(etiquetaFactores_);
 
   connect(textoProyecto_, &QPlainTextEdit::textChanged, this, [this] {
     if (refrescando_) return;
@@ -299,6 +304,7 @@ void VentanaPrincipalQt::Refrescar() {
     últimoEstado_ = v.TextoEstado;
     líneaEstado_->setText(Q(v.TextoEstado));
   }
+  etiquetaFactores_->setText(Q(LíneaDeFactores(proyecto_)));
   dibujo_->Actualizar();
   refrescando_ = false;
 }
