@@ -5,6 +5,7 @@
 #include "equilibrio/fellenius.h"
 #include "equilibrio/janbu.h"
 #include "equilibrio/leshchinsky.h"
+#include "pantallas/busqueda.h"
 #include "pantallas/comandos_archivo.h"
 #include "pantallas/comandos_coordenadas.h"
 #include "equilibrio/constantes.h"
@@ -46,6 +47,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
+  a["BúsquedaCírculoCrítico"] = BúsquedaCírculoCrítico;
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
   a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
   a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;

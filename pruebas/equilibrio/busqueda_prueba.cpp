@@ -6,7 +6,10 @@
 #include <cmath>
 
 #include "equilibrio/acads_apoyo.h"
+#include "equilibrio/bishop.h"
 #include "equilibrio/busqueda.h"
+#include "equilibrio/referencia.h"
+#include "pantallas/busqueda.h"
 #include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra {
@@ -68,6 +71,26 @@ TEST(BúsquedaCírculoCrítico, SinCírculoAdmisibleOCanceladaLoDiceSinFallo) {
   r = BuscarCírculoCrítico(p, MallaACADS(MétodoBúsqueda::Bishop, 2), &ui);
   EXPECT_TRUE(r.cancelada);
   EXPECT_FALSE(r.hay);
+}
+
+// "Usar este círculo" makes the critical circle the failure surface: the stated Bishop then runs on
+// it, the centre rebuilt from the chord and the radius is the one found, and the reference figure on
+// the stages' slices agrees with the search.
+TEST(BúsquedaCírculoCrítico, UsarElCírculoYCalcularConBishop) {
+  Proyecto p = pruebas::EjemploACADS(50, 2);
+  const ResultadoBúsqueda r = BuscarCírculoCrítico(p, MallaACADS(MétodoBúsqueda::Bishop, 2), nullptr);
+  ASSERT_TRUE(r.hay);
+  const CírculoEvaluado c = r.menores.front();
+  UsarCírculo(p, c);
+  EXPECT_FALSE(p.EtapaIntersecciones);
+  InterfazGuionada ui("N", true);
+  MétodoBishop(p, ui);
+  ASSERT_TRUE(p.CálculoHecho);
+  EXPECT_NEAR(p.ParámetrosIniciales.CentroX, c.xc, 1e-6);
+  EXPECT_NEAR(p.ParámetrosIniciales.CentroY, c.yc, 1e-6);
+  const FactoresReferencia f = FactoresDeReferencia(p);
+  ASSERT_TRUE(f.hayBishop) << f.motivo << f.motivoBishop;
+  EXPECT_NEAR(f.bishop, c.factor, 0.01 * c.factor);
 }
 
 }  // namespace
