@@ -147,6 +147,7 @@ std::string InformeComoJson(const InformeLote& informe) {
     s << (i ? "," : "") << "\n    " << TextoJson(informe.transcripción[i]);
   s << (informe.transcripción.empty() ? "" : "\n  ") << "],\n";
   s << "  \"fallo\": " << (informe.fallo ? "true" : "false") << ",\n";
+  if (!informe.búsqueda.empty()) s << "  \"Búsqueda\": " << informe.búsqueda << ",\n";
   s << "  \"FactorDeSeguridad\": " << (r.FactorDeSeguridad ? NúmeroJson(*r.FactorDeSeguridad) : "null") << ",\n";
   s << "  \"Multiplicador1\": " << (r.Multiplicador1 ? NúmeroJson(*r.Multiplicador1) : "null") << ",\n";
   s << "  \"Multiplicador2\": " << (r.Multiplicador2 ? NúmeroJson(*r.Multiplicador2) : "null") << ",\n";

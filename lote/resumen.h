@@ -38,6 +38,7 @@ struct InformeLote {
   std::vector<std::string> transcripción;  // the lines as printed
   bool fallo = false;                      // an unforeseen fault ended a command
   Resumen resumen;
+  std::string búsqueda;  // the JSON value of the search of the critical circle, when it ran
 };
 
 // The JSON text: numbers at full precision, null where there is no number.
