@@ -54,6 +54,16 @@ Figura FiguraBúsqueda(const Proyecto& p, const ResultadoBúsqueda& r, bool janb
   f.nombre = "BúsquedaCírculoCrítico";
   f.título = "Búsqueda del círculo crítico";
   f.notas.clear();
+  // The project's own failure surface, its slices and its centre would be read as the search's.
+  std::erase_if(f.trazos, [](const Trazo& t) {
+    return t.nombre == "falla" || t.nombre.rfind("radio ", 0) == 0 || t.nombre.rfind("borde ", 0) == 0;
+  });
+  std::erase_if(f.marcas, [](const Marca& m) {
+    return m.nombre == "centro" || m.nombre.rfind("punto de falla", 0) == 0;
+  });
+  std::erase_if(f.rótulos, [](const Rótulo& r) {
+    return r.color == colores::Falla || r.color == colores::Centro;
+  });
   if (!r.hay) {
     f.notas.push_back(r.mensaje);
     return f;
@@ -92,7 +102,7 @@ Figura FiguraBúsqueda(const Proyecto& p, const ResultadoBúsqueda& r, bool janb
         sinCírculo.puntos.push_back(punto);
         continue;
       }
-      const int k = std::clamp(static_cast<int>((v - crítico.factor) / paso), 0, kTramosEscala - 1);
+      const int k = static_cast<int>(std::clamp((v - crítico.factor) / paso, 0.0, kTramosEscala - 1.0));
       tramos[static_cast<std::size_t>(k)].puntos.push_back(punto);
     }
   for (auto& t : tramos)
