@@ -137,12 +137,13 @@ void PantallaResultados::Activar(Interfaz&) {
 
 std::string PantallaResultados::TextoParaCopiar() const {
   std::string r = "Método\t" + NombreDelMétodo(p_) + "\n";
-  r += "Factor de seguridad\t" + Formato(FactorDeSeguridadFinal(p_), "#0.000") + "\n";
-  for (const auto& línea : LíneasDeReferencia(FactoresDeReferencia(p_))) r += línea + "\n";
-  r += "\n";
+  r += "Factor de seguridad\t" + Formato(FactorDeSeguridadFinal(p_), "#0.000") + "\n\n";
   r += TextoTabulado(TablaResultadosDovelas(p_));
   r += "\n";
   r += TextoTabulado(TablaSumas(p_));
+  // The reference figures on a single arc come last, apart from the method's own results.
+  r += "\n";
+  for (const auto& línea : LíneasDeReferencia(FactoresDeReferencia(p_))) r += línea + "\n";
   return r;
 }
 
