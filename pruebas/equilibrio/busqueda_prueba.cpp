@@ -73,6 +73,25 @@ TEST(BúsquedaCírculoCrítico, SinCírculoAdmisibleOCanceladaLoDiceSinFallo) {
   EXPECT_FALSE(r.hay);
 }
 
+// A section drawn with its crest towards smaller X is the mirror image of the same slope: every
+// circle has the same factor with its centre mirrored.
+TEST(BúsquedaCírculoCrítico, LaSecciónEnEspejoDaLosMismosFactores) {
+  const Proyecto p = pruebas::EjemploACADS(50, 2);
+  Proyecto q = p;
+  for (long k = 1; k <= q.NúmeroPuntosTalud; ++k) q.CoordenadasTalud.X[k] = 100 - p.CoordenadasTalud.X[k];
+  for (long j = 1; j <= 2; ++j) q.XEstrato(1, j) = 100 - p.XEstrato(1, j);
+  std::string motivo;
+  const SecciónPreparada s = PrepararSección(p, motivo), e = PrepararSección(q, motivo);
+  EspacioPreparado espacio = NuevoEspacio(40);
+  for (auto método : {MétodoBúsqueda::Bishop, MétodoBúsqueda::Janbu})
+    for (double yc : {48.0, 53.2, 58.0}) {
+      const double F = EvaluarCírculo(*s, 29.7, yc, yc - 25.5, 40, método, 20, 70, *espacio);
+      const double G = EvaluarCírculo(*e, 70.3, yc, yc - 25.5, 40, método, 30, 80, *espacio);
+      ASSERT_TRUE(std::isfinite(F));
+      EXPECT_NEAR(F, G, 1e-9 * F);
+    }
+}
+
 // "Usar este círculo" makes the critical circle the failure surface: the stated Bishop then runs on
 // it, the centre rebuilt from the chord and the radius is the one found, and the reference figure on
 // the stages' slices agrees with the search.
