@@ -46,6 +46,11 @@ FactoresReferencia Calcular(const Proyecto& p) {
                "(un tramo \"C\").";
     return f;
   }
+  if (p.TipoDeMaterial == "R" && !p.ParámetrosIniciales.UsaParámetrosInstantáneos) {
+    f.motivo = "Sin cifras de referencia: en roca, sin parámetros instantáneos, las bases no "
+               "tienen cohesión ni fricción de Mohr-Coulomb.";
+    return f;
+  }
   const long n = p.NúmeroBordes > 1 ? p.NúmeroBordes - 1 : 0;
   if (n < 1 || !ColumnasCompletas(p, n)) {
     f.motivo = "Sin cifras de referencia: no están en memoria las dovelas de un cálculo.";
