@@ -7,6 +7,7 @@
 #include "equilibrio/janbu.h"
 #include "equilibrio/leshchinsky.h"
 #include "equilibrio/leshchinsky_rocas.h"
+#include "pantallas/busqueda.h"
 #include "pantallas/comandos_archivo.h"
 #include "pantallas/comandos_coordenadas.h"
 #include "equilibrio/constantes.h"
@@ -52,6 +53,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
   a["MétodoJanbuEnRocas"] = MétodoJanbuEnRocas;
+  a["BúsquedaCírculoCrítico"] = BúsquedaCírculoCrítico;
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
   a["CálculoParámetrosInstantáneos"] = CálculoParámetrosInstantáneos;
   a["ProcesoIterativoEnRocas"] = ProcesoIterativoEnRocas;
