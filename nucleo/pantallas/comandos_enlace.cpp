@@ -16,6 +16,8 @@
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
+#include "pantallas/malla.h"
+#include "elementos/refinamiento.h"
 #include "pantallas/resultados.h"
 
 namespace lomaterra {
@@ -43,6 +45,14 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["CargasPuntuales"] = CargasPuntuales;
   a["MenúArchivoConstantes"] = MenúArchivoConstantes;
   a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
+  a["CaracterísticasElásticas"] = CaracterísticasElásticas;
+  a["MenúCoordenadasNodos"] = MenúCoordenadasNodos;
+  a["NodosParaCadaElemento"] = NodosParaCadaElemento;
+  a["CaracterizaciónElementos"] = CaracterizaciónElementos;
+  a["NodosConRestricción"] = NodosConRestricción;
+  a["CargasUniformesSobreElementos"] = CargasUniformesSobreElementos;
+  a["IncrementeNúmeroDeElementos"] = IncrementeNúmeroDeElementos;
+  a["PresionesDePoros"] = PresionesDePoros;
   a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
