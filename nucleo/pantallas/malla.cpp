@@ -9,6 +9,7 @@
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
 #include "proyecto/secuencial.h"
+#include "salida/malla.h"
 
 namespace lomaterra {
 
@@ -1279,6 +1280,15 @@ void PresionesDePoros(Proyecto& p, Interfaz& ui) {
   }
   Form34 pantalla(p, true);
   ui.Abrir(pantalla);
+}
+
+void GráficoGeometríaTaludEstratos(Proyecto& p, Interfaz& ui) {
+  if (!EnElementosFinitos(p, ui)) return;
+  if (p.NúmeroPuntosTalud < 2 && p.Malla.NúmeroDeElementos < 1) {
+    ui.Mensaje("No hay coordenadas del talud ni elementos para dibujar.", "Geometría del problema");
+    return;
+  }
+  ui.MostrarFigura(FiguraMalla(p));
 }
 
 }  // namespace lomaterra
