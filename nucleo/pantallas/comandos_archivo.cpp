@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "pantallas/malla.h"
 #include "proyecto/archivo.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
@@ -89,6 +90,10 @@ bool GuardarConDiálogo(Proyecto& p, Interfaz& ui) {
   if (std::filesystem::exists(*ruta, ec) &&
       !ui.Pregunta("El archivo ya existe. ¿Desea sobreescribirlo?"))
     return false;
+  if (p.TipoDeAnálisis == "F" && ui.Pregunta(kPreguntaMaterialesAlGuardar)) {
+    PantallaMateriales materiales(p);
+    ui.Abrir(materiales);
+  }
   if (!GuardarProyecto(p, *ruta, ui)) return false;
   p.DatosGuardados = true;
   p.ListaGuardada = true;

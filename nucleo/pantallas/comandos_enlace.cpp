@@ -20,6 +20,8 @@
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
 #include "pantallas/estratos_roca.h"
+#include "pantallas/malla.h"
+#include "elementos/refinamiento.h"
 #include "pantallas/resultados.h"
 
 namespace lomaterra {
@@ -49,6 +51,16 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["CargasPuntuales"] = CargasPuntuales;
   a["MenúArchivoConstantes"] = MenúArchivoConstantes;
   a["ParámetrosInicialesDeCálculoElementosFinitos"] = ParámetrosInicialesDeCálculoElementosFinitos;
+  a["CaracterísticasElásticas"] = CaracterísticasElásticas;
+  a["MenúCoordenadasNodos"] = MenúCoordenadasNodos;
+  a["NodosParaCadaElemento"] = NodosParaCadaElemento;
+  a["CaracterizaciónElementos"] = CaracterizaciónElementos;
+  a["NodosConRestricción"] = NodosConRestricción;
+  a["CargasUniformesSobreElementos"] = CargasUniformesSobreElementos;
+  a["IncrementeNúmeroDeElementos"] = IncrementeNúmeroDeElementos;
+  a["PresionesDePoros"] = PresionesDePoros;
+  a["GráficoGeometríaTaludEstratos"] = GráficoGeometríaTaludEstratos;
+  a["ElementoConSuNúmeroCorrespondiente"] = GráficoGeometríaTaludEstratos;
   a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;

@@ -13,10 +13,10 @@ std::size_t Z(long i) {
 const char* const kLista = "ListaDePresiónDePoros";
 }  // namespace
 
-Form34::Form34(Proyecto& p) : p_(p) {
+Form34::Form34(Proyecto& p, bool elementos) : p_(p), elementos_(elementos) {
   nombre = "Form34";
   título = "Presiones de poros controladas por el usuario";
-  listas = {{kLista, {"Dovela", "Presión de poros"}, {}, 0, {}}};
+  listas = {{kLista, {elementos ? "Elemento" : "Dovela", "Presión de poros"}, {}, 0, {}}};
   listas[0].alSeleccionar = [this](Interfaz&) {
     const auto& l = lista(kLista);
     if (l.seleccionada >= 1 && l.seleccionada <= static_cast<int>(l.filas.size()))
@@ -32,7 +32,12 @@ Form34::Form34(Proyecto& p) : p_(p) {
 }
 
 void Form34::Activar(Interfaz& ui) {
-  const long n = p_.NúmeroBordes - 1;
+  const long n = elementos_ ? p_.Malla.NúmeroDeElementos : p_.NúmeroBordes - 1;
+  if (n < 1 && elementos_) {
+    ui.Mensaje("Defina elementos y luego puede asignar las presiones de poros.");
+    cerrada = true;
+    return;
+  }
   if (n < 1) {
     ui.Mensaje(
         "Ordene al programa hacer la estimación del factor de seguridad. Luego puede entrar a esta "
@@ -45,7 +50,7 @@ void Form34::Activar(Interfaz& ui) {
   l.seleccionada = 0;
   presión_.assign(Z(n + 1), 0.0);
   for (long i = 1; i <= n; ++i) {
-    presión_[Z(i)] = p_.TablaDovelas.PresiónPoros.Leer(i);
+    presión_[Z(i)] = elementos_ ? p_.Malla.PresiónPorosElemento.Leer(i) : p_.TablaDovelas.PresiónPoros.Leer(i);
     l.filas.push_back({Formato(i, "#"), Formato(presión_[Z(i)], "#0.00")});
   }
   texto("TextoPresiónDePoros").clear();
@@ -67,7 +72,7 @@ void Form34::Modificar(Interfaz& ui) {
 }
 
 void Form34::Aceptar(Interfaz&) {
-  auto& u = p_.TablaDovelas.PresiónPoros;
+  auto& u = elementos_ ? p_.Malla.PresiónPorosElemento : p_.TablaDovelas.PresiónPoros;
   const long n = static_cast<long>(presión_.size()) - 1;
   if (u.Tamaño() < n) u.RedimensionarConservando(n);
   for (long i = 1; i <= n; ++i) u[i] = presión_[Z(i)];

@@ -12,7 +12,8 @@ struct Proyecto;
 
 class Form34 : public Pantalla {
  public:
-  explicit Form34(Proyecto& p);
+  // With `elementos` the screen shows the pore pressure of each finite element instead.
+  explicit Form34(Proyecto& p, bool elementos = false);
   void Activar(Interfaz& ui) override;
   void Modificar(Interfaz& ui);
   void Aceptar(Interfaz& ui);
@@ -20,6 +21,7 @@ class Form34 : public Pantalla {
 
  private:
   Proyecto& p_;
+  bool elementos_ = false;
   std::vector<double> presión_;  // one-based
 };
 

@@ -7,6 +7,7 @@
 #include <new>
 #include <string>
 
+#include "proyecto/archivo_elementos.h"
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/secuencial.h"
@@ -17,12 +18,6 @@ namespace {
 
 const char* const kErrorLectura = "Error leyendo archivo";
 const char* const kSinMaterial = "Seleccione la opción parámetros iniciales e indique si es suelo <S> ó <R>";
-const char* const kLecturaElementosFinitos =
-    "El archivo contiene un proyecto de elementos finitos. Esta versión de Lomaterra todavía no "
-    "lee proyectos de elementos finitos: solo se leyó la información general del proyecto.";
-const char* const kGuardarElementosFinitos =
-    "Esta versión de Lomaterra todavía no guarda proyectos de elementos finitos. No se escribió "
-    "ningún archivo.";
 const char* const kTítuloGuardar = "Guardar proyecto";
 
 // ---------------------------------------------------------------------------------------------
@@ -497,15 +492,13 @@ bool GuardarProyecto(Proyecto& p, const std::string& archivo, Interfaz& ui) {
     ui.Mensaje(kSinMaterial);
     return false;
   }
-  if (p.TipoDeAnálisis == "F") {
-    ui.Mensaje(kGuardarElementosFinitos, kTítuloGuardar);
-    return false;
-  }
   EscritorSecuencial e;
   EscribirCabecera(e, p);
   if (p.TipoDeAnálisis == "T") {
     OrdenarAntesDelCuerpoT(p);
     EscribirCuerpoT(e, p);
+  } else if (p.TipoDeAnálisis == "F") {
+    EscribirCuerpoF(e, p);
   }
   std::string detalle;
   if (!e.GuardarEn(archivo, &detalle)) {
@@ -523,11 +516,8 @@ bool LeerProyecto(Proyecto& p, const std::string& archivo, Interfaz& ui) {
   try {
     LectorSecuencial l = LectorSecuencial::DeArchivo(archivo);
     const std::string descripción = LeerCabecera(l, p);
-    if (p.TipoDeAnálisis == "F") {
-      ui.Mensaje(kLecturaElementosFinitos);
-      return false;
-    }
     if (p.TipoDeAnálisis == "T") LeerCuerpoT(l, p);
+    if (p.TipoDeAnálisis == "F") LeerCuerpoF(l, p);
     TerminarLectura(p, descripción);
     return true;
   } catch (const ErrorLectura&) {

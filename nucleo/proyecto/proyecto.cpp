@@ -181,3 +181,44 @@ void CargarPanelCoordenadas(Proyecto& p, int tipo, int estrato) {
 }
 
 }  // namespace lomaterra
+
+namespace lomaterra {
+
+void TablaElemento::Redimensionar(long n) {
+  NodosPorElemento.Redimensionar(n);
+  for (Tabla<double>* t : {&PuntosIntegración, &Lado12, &Lado23, &Lado31, &MaterialDeElemento, &XCentroElemento, &YCentroElemento})
+    t->Redimensionar(n);
+  for (Tabla2<double>* t : {&NodoDeElemento, &XElemento, &YElemento, &ZElemento, &NúmeroElemento}) t->Redimensionar(n, 6);
+}
+
+void TablaElemento::RedimensionarConservando(long n) {
+  NodosPorElemento.RedimensionarConservando(n);
+  for (Tabla<double>* t : {&PuntosIntegración, &Lado12, &Lado23, &Lado31, &MaterialDeElemento, &XCentroElemento, &YCentroElemento})
+    t->RedimensionarConservando(n);
+  for (Tabla2<double>* t : {&NodoDeElemento, &XElemento, &YElemento, &ZElemento, &NúmeroElemento})
+    t->RedimensionarConservando(n, 6);
+}
+
+void TablaNodoConRestricción::Redimensionar(long n) {
+  for (Tabla<double>* t : {&NodoRestringido, &ResorteX, &ResorteY, &ResorteZ}) t->Redimensionar(n);
+  for (Tabla<std::string>* t : {&RestricciónX, &RestricciónY, &RestricciónZ}) t->Redimensionar(n);
+}
+
+void TablaNodoConRestricción::RedimensionarConservando(long n) {
+  for (Tabla<double>* t : {&NodoRestringido, &ResorteX, &ResorteY, &ResorteZ}) t->RedimensionarConservando(n);
+  for (Tabla<std::string>* t : {&RestricciónX, &RestricciónY, &RestricciónZ}) t->RedimensionarConservando(n);
+}
+
+void TablaCargaElemento::Redimensionar(long n) {
+  for (Tabla<double>* t : {&ElementoDeCarga, &CargaQx, &CargaQy, &CargaQz, &CargaReservada, &NodoUnoCarga, &NodoDosCarga})
+    t->Redimensionar(n);
+  ValoresReservados.Redimensionar(n, 13);
+}
+
+void TablaCargaElemento::RedimensionarConservando(long n) {
+  for (Tabla<double>* t : {&ElementoDeCarga, &CargaQx, &CargaQy, &CargaQz, &CargaReservada, &NodoUnoCarga, &NodoDosCarga})
+    t->RedimensionarConservando(n);
+  ValoresReservados.RedimensionarConservando(n, 13);
+}
+
+}  // namespace lomaterra

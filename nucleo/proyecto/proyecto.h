@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "proyecto/ventana_principal.h"
 #include "proyecto/tabla.h"
@@ -136,20 +137,112 @@ struct DatosAnclajes {
 };
 
 // The finite-element mesh: its tables keep their own names apart from the slope loads.
-// Only the flags that the limit-equilibrium side reads live here until the mesh is built.
+// Nodes stand in descending order of number; node n owns degrees of freedom 2n-1 (x) and 2n (y).
+struct TablaNodo {
+  Tabla<Entero> NúmeroDeNodo;
+  Tabla<double> XNodo, YNodo, ZNodo;
+  void Redimensionar(long n) { NúmeroDeNodo.Redimensionar(n); XNodo.Redimensionar(n); YNodo.Redimensionar(n); ZNodo.Redimensionar(n); }
+  void RedimensionarConservando(long n) {
+    NúmeroDeNodo.RedimensionarConservando(n); XNodo.RedimensionarConservando(n); YNodo.RedimensionarConservando(n); ZNodo.RedimensionarConservando(n);
+  }
+  bool operator==(const TablaNodo&) const = default;
+};
+
+// Triangles of 3 or 6 nodes; the two-index columns are (element, k) with k from 1 to 6.
+struct TablaElemento {
+  Tabla<Entero> NodosPorElemento;
+  Tabla<double> PuntosIntegración, Lado12, Lado23, Lado31;  // side codes: 1 mid-side node, 2 none
+  Tabla2<double> NodoDeElemento;
+  Tabla<double> MaterialDeElemento;
+  Tabla2<double> XElemento, YElemento, ZElemento, NúmeroElemento;  // copies taken from the nodes
+  Tabla<double> XCentroElemento, YCentroElemento;
+  void Redimensionar(long n);
+  void RedimensionarConservando(long n);
+  bool operator==(const TablaElemento&) const = default;
+};
+
+struct TablaNodoConRestricción {
+  Tabla<double> NodoRestringido;
+  Tabla<std::string> RestricciónX, RestricciónY, RestricciónZ;  // "S" free, "N" restricted
+  Tabla<double> ResorteX, ResorteY, ResorteZ;                   // kg/cm
+  void Redimensionar(long n);
+  void RedimensionarConservando(long n);
+  bool operator==(const TablaNodoConRestricción&) const = default;
+};
+
+// Uniform pressure on one element side. The reserved values are kept because the file has them.
+struct TablaCargaElemento {
+  Tabla<double> ElementoDeCarga, CargaQx, CargaQy, CargaQz, CargaReservada, NodoUnoCarga, NodoDosCarga;
+  Tabla2<double> ValoresReservados;  // (row, 1..13)
+  void Redimensionar(long n);
+  void RedimensionarConservando(long n);
+  bool operator==(const TablaCargaElemento&) const = default;
+};
+
 struct MallaElementos {
   bool NodosDefinidos = false, ElementosDefinidos = false, CaracterísticasElásticasDadas = false,
        MaterialesAsignados = false, NodosRestringidosDefinidos = false, CargasUniformesDefinidas = false;
-  Entero NúmeroDeNodos = 0, NúmeroDeElementos = 0;
+  bool ConfirmarElementos = false, MallaRefinada = false, RestriccionesTrasRefinar = true;
+  Entero NúmeroDeNodos = 0, NúmeroDeElementos = 0, NúmeroAnteriorDeElementos = 0;
+  std::int32_t NúmeroNodosConRestricción = 0;
+  Entero NúmeroCargasUniformes = 0;
+  TablaNodo Nodo;
+  TablaElemento Elemento;
+  TablaNodoConRestricción NodoConRestricción;
+  TablaCargaElemento CargaUniforme;
+  std::string TipoDeElemento = "T";
+
+  // Elastic properties of the soil strata (rock strata keep theirs in the stratum table), and the
+  // run's constants.
+  Tabla<double> MóduloElasticidad, CoeficientePoisson;
+  double IntervaloDeTiempo = 0;
+  Entero TipoEsfuerzo = 2;  // plane strain
+  double EspesorAnálisis = 1;
+
+  // Stiffness and loads of the last run.
+  Tabla<double> VectorDeCargas;
+  Tabla<double> PresiónPorosElemento, EsfuerzoVerticalEfectivo, OrdenadaTaludElemento,
+      OrdenadaFreáticoElemento;
+  bool PresiónPorosEstimada = false, PresionesFreáticasPresentes = false;
+  double CotaMáximaTalud = 0;
+  bool FalloInversa = false, CalculandoRigidez = false, CálculoEstático = false, AnálisisPresas = false;
+
+  // Stresses and displacements: (element or degree of freedom, step).
+  Entero NúmeroDeIteración = 0;
+  Tabla2<double> EsfuerzoX, EsfuerzoY, EsfuerzoXY, EsfuerzoPrincipalMayor, EsfuerzoPrincipalMenor;
+  Tabla2<double> Desplazamientos;
+  bool DesplazamientosHechos = false;
+  double FSMínimo = 0, FSPromedio = 0;
+  Tabla<double> ProfundidadFreático;
+
+  // Refinement
+  Entero NodosAntesDeRefinar = 0, ElementosAntesDeRefinar = 0, NúmeroCargasRefinadas = 0;
+  Tabla2<double> XElementoAnterior, YElementoAnterior, ZElementoAnterior, NúmeroElementoAnterior;
+
   double FSFinalElementos = 0;
   void Limpiar() { *this = MallaElementos{}; }
 };
 
+// The seismic data and results. Until the seismic analysis is built they are carried as they are
+// read, so that a project keeps them across a save.
 struct DatosSísmicos {
   bool RegistroDado = false, ParámetrosSísmicosDados = false, FormasModalesDadas = false,
        FrecuenciasDadas = false, SismoCalculado = false, CálculoSísmicoHecho = false;
   Entero PasosSísmicos = 0;
   Entero RegistroSeleccionado = 0;
+  Tabla2<double> ParámetroSísmico;  // (stratum, 1..7): VelocidadCorte, then six more
+  Entero NúmeroPuntosRegistro = 0;
+  Tabla2<double> Registro;  // (step, 1..3): tiempo, acel_h, acel_v
+  bool SismoIntegrado = false, MatricesSísmicasDadas = false;
+  double ResultadoSísmico1 = 0, ResultadoSísmico2 = 0, IntervaloTiempoSísmico = 0;
+  Entero ModoSísmico = 0;
+  // History per record step: six values a node, four and three an element.
+  std::vector<double> HistoriaNodos, HistoriaElementos4, HistoriaElementos3;
+  double FactorSísmicoMínimo = 0;
+  Entero PasoFactorSísmico = 0, ElementoFactorSísmico = 0;
+  Entero GradosDeLibertad = 0, AnchoBanda1 = 0, AnchoBanda2 = 0;
+  std::vector<double> MatricesCondensadas;  // GradosDeLibertad² rows of three
+  std::vector<double> Banda1, Banda2, Frecuencia, FormasModales;
   void Limpiar() { *this = DatosSísmicos{}; }
 };
 

@@ -681,24 +681,5 @@ TEST_F(ArchivoProyecto, ArchivosQueNoSePuedenLeer) {
   EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Error leyendo archivo"});
 }
 
-TEST_F(ArchivoProyecto, ArchivoDeElementosFinitosSeRechaza) {
-  EscribirBytes(ruta, "\"Presa\",\"\",\"\",\"\",\"\",\"\",\"F\",2\r\n\"S\"\r\n1,4,1\r\n");
-  Proyecto q;
-  EXPECT_FALSE(LeerProyecto(q, ruta, ui));
-  EXPECT_EQ(ui.Textos(), std::vector<std::string>{
-                             "El archivo contiene un proyecto de elementos finitos. Esta versión de Lomaterra "
-                             "todavía no lee proyectos de elementos finitos: solo se leyó la información general "
-                             "del proyecto."});
-  EXPECT_EQ(q.TipoDeAnálisis, "F");
-  EXPECT_FALSE(q.InformaciónDada);
-  EXPECT_EQ(q.NúmeroEstratos, 0);
-
-  ui.Olvidar();
-  Proyecto p = ProyectoSuelo(false);
-  p.TipoDeAnálisis = "F";
-  EXPECT_FALSE(GuardarProyecto(p, ruta, ui));
-  ASSERT_EQ(ui.Textos().size(), 1u);
-}
-
 }  // namespace
 }  // namespace lomaterra
