@@ -17,6 +17,7 @@
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
 #include "pantallas/resultados.h"
+#include "pantallas/comandos_sismicos.h"
 
 namespace lomaterra {
 
@@ -63,6 +64,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["GráficoGeometría"] = GráficoGeometría;
   a["ImprimirInformaciónDadaAlPrograma"] = ImprimirInformaciónDadaAlPrograma;
   a["ImprimirResultadosAnálisisMétodosEquilibrioLímites"] = ImprimirResultadosAnálisisMétodosEquilibrioLímites;
+  EnlazarComandosSísmicos(a);
 }
 
 }  // namespace lomaterra

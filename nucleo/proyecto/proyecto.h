@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "proyecto/datos_sismicos.h"
 #include "proyecto/ventana_principal.h"
 #include "proyecto/tabla.h"
 
@@ -142,14 +143,6 @@ struct MallaElementos {
   Entero NúmeroDeNodos = 0, NúmeroDeElementos = 0;
   double FSFinalElementos = 0;
   void Limpiar() { *this = MallaElementos{}; }
-};
-
-struct DatosSísmicos {
-  bool RegistroDado = false, ParámetrosSísmicosDados = false, FormasModalesDadas = false,
-       FrecuenciasDadas = false, SismoCalculado = false, CálculoSísmicoHecho = false;
-  Entero PasosSísmicos = 0;
-  Entero RegistroSeleccionado = 0;
-  void Limpiar() { *this = DatosSísmicos{}; }
 };
 
 struct Proyecto {

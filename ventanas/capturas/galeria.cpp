@@ -14,6 +14,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QTextBrowser>
+#include <cmath>
 #include <cstdio>
 #include <exception>
 #include <fstream>
@@ -30,6 +31,8 @@
 #include "pantallas/anclajes.h"
 #include "pintor.h"
 #include "salida/graficos.h"
+#include "salida/registro_sismico.h"
+#include "sismico/registro.h"
 #include "salida_figura_qt.h"
 #include "ventana_principal_qt.h"
 #include "vista_pantalla.h"
@@ -297,6 +300,54 @@ int main(int argc, char** argv) {
       QDialog* diálogo = CrearDiálogoFigura(nullptr, FiguraGráfico(p, nombre));
       Guardar(*diálogo, std::string("diálogo_") + nombre);
       delete diálogo;
+    }
+  }
+  {
+    // The seismic data screens filled in, and the record they draw.
+    Proyecto p = muestra;
+    std::vector<FilaRegistro> filas;
+    for (int i = 0; i <= 200; ++i) {
+      const double t = 0.02 * i;
+      filas.push_back({t, 0.3 * std::exp(-0.8 * t) * std::sin(9.0 * t) * std::sin(1.3 * t + 0.4),
+                       0.12 * std::exp(-0.9 * t) * std::sin(13.0 * t)});
+    }
+    GuardarRegistro(p, filas);
+    ExportarPNG(FiguraRegistroSísmico(p), QDir(carpeta).filePath("figura_GráficaDeRegistroSísmico.png"), nullptr);
+    QDialog* diálogo = CrearDiálogoFigura(nullptr, FiguraRegistroSísmico(p));
+    Guardar(*diálogo, "diálogo_GráficaDeRegistroSísmico");
+    delete diálogo;
+    InterfazGuionada guion("N");
+    InterfazQt ui;
+    ui.Sustituto(&guion);
+    ui.AlMostrar([](VistaPantalla& vista) {
+      Guardar(vista, vista.pantalla().nombre + "_con_datos");
+      throw Corte{};
+    });
+    for (const char* orden : {"InputDeRegistrosSísmico", "CaracterísticasDeLosEstratosParaElCálculoSísmico"}) {
+      if (std::string(orden) == "CaracterísticasDeLosEstratosParaElCálculoSísmico") {
+        auto& s = p.Sísmico;
+        const long n = p.NúmeroEstratos;
+        for (auto* t : {&s.VelocidadOndaCorte, &s.DistorsiónCortante, &s.RelaciónVacíos,
+                        &s.ResistenciaNoDrenada, &s.ÍndicePlástico, &s.OCR})
+          t->Redimensionar(n);
+        s.Determinante.Redimensionar(n);
+        for (long e = 1; e <= n; ++e) {
+          s.VelocidadOndaCorte[e] = 180 + 40 * e;
+          s.DistorsiónCortante[e] = 1e-6;
+          s.RelaciónVacíos[e] = 0.55 + 0.05 * e;
+          s.ÍndicePlástico[e] = e == 1 ? 0 : 15;
+          s.OCR[e] = e == 1 ? 0 : 1;
+          s.Determinante[e] = e == n ? 2 : 1;
+        }
+        s.AlturaPresa = 25;
+        s.MétodoGmax = 1;
+        s.ParámetrosSísmicosDados = true;
+      }
+      const auto árbol = ÁrbolDeMenús();
+      try {
+        if (const EntradaMenú* e = BuscarEntrada(árbol, orden)) EjecutarComando(e->acción, p, ui);
+      } catch (const Corte&) {
+      }
     }
   }
   {

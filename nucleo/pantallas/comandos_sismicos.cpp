@@ -1,0 +1,14 @@
+#include "pantallas/comandos_sismicos.h"
+
+#include "pantallas/estratos_sismicos.h"
+#include "pantallas/registro_sismico.h"
+
+namespace lomaterra {
+
+void EnlazarComandosSísmicos(std::map<std::string, Acción>& a) {
+  a["InputDeRegistrosSísmico"] = InputDeRegistrosSísmico;
+  a["GráficaDeRegistroSísmico"] = GráficaDeRegistroSísmico;
+  a["CaracterísticasDeLosEstratosParaElCálculoSísmico"] = CaracterísticasDeLosEstratosParaElCálculoSísmico;
+}
+
+}  // namespace lomaterra
