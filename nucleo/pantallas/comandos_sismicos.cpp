@@ -2,12 +2,14 @@
 
 #include "pantallas/estratos_sismicos.h"
 #include "pantallas/registro_sismico.h"
+#include "sismico/formas_modales.h"
 
 namespace lomaterra {
 
 void EnlazarComandosSísmicos(std::map<std::string, Acción>& a) {
   a["InputDeRegistrosSísmico"] = InputDeRegistrosSísmico;
   a["GráficaDeRegistroSísmico"] = GráficaDeRegistroSísmico;
+  a["CálculoDeLoVectoresDeFormaModales"] = CálculoDeLoVectoresDeFormaModales;
   a["CaracterísticasDeLosEstratosParaElCálculoSísmico"] = CaracterísticasDeLosEstratosParaElCálculoSísmico;
 }
 
