@@ -76,7 +76,9 @@ void FormEstratosSísmicos::Activar(Interfaz&) {
   const auto& s = p_.Sísmico;
   filas_.assign(static_cast<std::size_t>(std::max<int>(p_.NúmeroEstratos, 0)), Fila{});
   for (long e = 1; e <= static_cast<long>(filas_.size()); ++e) {
-    if (!s.ParámetrosSísmicosDados || !s.VelocidadOndaCorte.Existe(e)) continue;
+    // A stratum inserted after the parameters were given has a row of zeros: it waits for its
+    // values (the distortion of a given row is above zero).
+    if (!s.ParámetrosSísmicosDados || !(s.DistorsiónCortante.Leer(e) > 0)) continue;
     Fila& f = filas_[static_cast<std::size_t>(e - 1)];
     f.completa = true;
     f.vs = s.VelocidadOndaCorte.Leer(e);

@@ -39,6 +39,11 @@ struct DatosSísmicos {
   Tabla2<double> MatrizRigidezCondensada, MatrizMasaCondensada, MatrizAmortiguamientoCondensada;
   bool GradosDeLibertadEstimados = false;
 
+  // What each free degree takes, in the condensed order, from the stratum of the first element
+  // that holds its node: Young's modulus, Poisson ratio, moist unit weight, shear wave velocity and
+  // maximum shear modulus. Filled where the free degrees are numbered.
+  Tabla<double> MóduloGrado, PoissonGrado, PesoGrado, VelocidadGrado, GmaxGrado;
+
   // Natural frequencies (rad/s) and mass-normalised mode shapes, column m is mode m.
   Tabla<double> Frecuencia;
   Entero NúmeroFrecuencias = 0;
