@@ -32,6 +32,7 @@
 #include "pintor.h"
 #include "salida/graficos.h"
 #include "salida/registro_sismico.h"
+#include "sismico/formas_modales.h"
 #include "sismico/registro.h"
 #include "salida_figura_qt.h"
 #include "ventana_principal_qt.h"
@@ -323,7 +324,34 @@ int main(int argc, char** argv) {
       Guardar(vista, vista.pantalla().nombre + "_con_datos");
       throw Corte{};
     });
-    for (const char* orden : {"InputDeRegistrosSísmico", "CaracterísticasDeLosEstratosParaElCálculoSísmico"}) {
+    {
+      // Modes of a chain of six masses, as the frequencies screen shows them once chosen.
+      const long n = 6;
+      std::vector<double> K(n * n, 0.0), M(n * n, 0.0), w(n);
+      for (long i = 0; i < n; ++i) {
+        K[i * n + i] = i + 1 < n ? 2000 : 1000;
+        if (i + 1 < n) K[i * n + i + 1] = K[(i + 1) * n + i] = -1000;
+        M[i * n + i] = 1;
+        w[i] = 5 + 10 * i;
+      }
+      InterfazGuionada sí("S");
+      FormasModales r;
+      if (CalcularFormasModales(K, M, n, w, r, sí)) {
+        auto& s = p.Sísmico;
+        s.NúmeroGradosLibertad = s.NúmeroFrecuencias = n;
+        s.Frecuencia.Redimensionar(n);
+        s.MatrizFormasModales.Redimensionar(n, n);
+        for (long i = 1; i <= n; ++i) {
+          s.Frecuencia[i] = r.frecuencias[i - 1];
+          for (long m = 1; m <= n; ++m) s.MatrizFormasModales(i, m) = r.formas[(i - 1) * n + m - 1];
+        }
+        s.ModosCalculados = n;
+        s.ModoDeCálculo = 2;
+        s.GradosDeLibertadEstimados = s.FormasModalesDadas = s.FrecuenciasDefinitivas = true;
+      }
+    }
+    for (const char* orden : {"InputDeRegistrosSísmico", "CaracterísticasDeLosEstratosParaElCálculoSísmico",
+                              "DeterminaciónDeLasFrecuencias"}) {
       if (std::string(orden) == "CaracterísticasDeLosEstratosParaElCálculoSísmico") {
         auto& s = p.Sísmico;
         const long n = p.NúmeroEstratos;
