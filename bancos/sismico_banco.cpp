@@ -6,6 +6,8 @@
 #include <random>
 #include <vector>
 
+#include "pantallas/interfaz_guionada.h"
+#include "sismico/formas_modales.h"
 #include "sismico/inversa_explicita.h"
 
 namespace {
@@ -51,5 +53,23 @@ void BM_Redondeo(benchmark::State& s) {
   }
 }
 BENCHMARK(BM_Redondeo)->Arg(1000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// Every mode of a chain of n masses and springs, answering Yes to the time question.
+void BM_TodosLosModos(benchmark::State& s) {
+  const long n = s.range(0);
+  std::vector<double> K(static_cast<std::size_t>(n * n)), M(K.size()), w(static_cast<std::size_t>(n));
+  for (long i = 0; i < n; ++i) {
+    K[static_cast<std::size_t>(i * n + i)] = i + 1 < n ? 2000 : 1000;
+    if (i + 1 < n) K[static_cast<std::size_t>(i * n + i + 1)] = K[static_cast<std::size_t>((i + 1) * n + i)] = -1000;
+    M[static_cast<std::size_t>(i * n + i)] = 1;
+    w[static_cast<std::size_t>(i)] = 1 + i;
+  }
+  for (auto _ : s) {
+    InterfazGuionada ui("S");
+    FormasModales r;
+    benchmark::DoNotOptimize(CalcularFormasModales(K, M, n, w, r, ui));
+  }
+}
+BENCHMARK(BM_TodosLosModos)->Arg(200)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1);
 
 }  // namespace

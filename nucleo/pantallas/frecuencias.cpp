@@ -100,7 +100,9 @@ void ResultadosDeLasFrecuenciasNaturales::Activar(Interfaz& ui) {
     s.ModoElegido = 0;
     calcular = true;
   }
-  if (calcular && !s.FrecuenciasIniciales && !CalcularIniciales(p_, ui)) {
+  // Until the modes are found the initial list is made anew at every opening, from the data as
+  // they stand.
+  if (calcular && !CalcularIniciales(p_, ui)) {
     cerrada = true;
     return;
   }
