@@ -95,6 +95,11 @@ void CadaColumnaDeEstrato(Proyecto& p, F&& f) {
   f(p.Roca.PuntosEnsayo);
   f(p.Roca.EnsayoSigma1);
   f(p.Roca.EnsayoSigma3);
+  DatosSísmicos& s = p.Sísmico;
+  for (Tabla<double>* t : {&s.VelocidadOndaCorte, &s.DistorsiónCortante, &s.RelaciónVacíos,
+                           &s.ResistenciaNoDrenada, &s.ÍndicePlástico, &s.OCR})
+    f(*t);
+  f(s.Determinante);
 }
 
 }  // namespace

@@ -23,6 +23,7 @@
 #include "pantallas/malla.h"
 #include "elementos/refinamiento.h"
 #include "pantallas/resultados.h"
+#include "pantallas/comandos_sismicos.h"
 
 namespace lomaterra {
 
@@ -85,6 +86,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["GráficoGeometría"] = GráficoGeometría;
   a["ImprimirInformaciónDadaAlPrograma"] = ImprimirInformaciónDadaAlPrograma;
   a["ImprimirResultadosAnálisisMétodosEquilibrioLímites"] = ImprimirResultadosAnálisisMétodosEquilibrioLímites;
+  EnlazarComandosSísmicos(a);
 }
 
 }  // namespace lomaterra

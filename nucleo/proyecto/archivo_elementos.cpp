@@ -196,8 +196,12 @@ void EscribirCuerpoF(EscritorSecuencial& e, const Proyecto& p) {
   // Seismic data, carried as they stand
   e.Bandera(s.ParámetrosSísmicosDados).Fin();
   if (s.ParámetrosSísmicosDados) {
-    for (long st = 1; st <= p.NúmeroEstratos; ++st)
-      for (long k = 1; k <= 7; ++k) e.Real(s.ParámetroSísmico.Leer(st, k)).Fin();
+    for (long st = 1; st <= p.NúmeroEstratos; ++st) {
+      for (const Tabla<double>* t : {&s.VelocidadOndaCorte, &s.DistorsiónCortante, &s.RelaciónVacíos,
+                                     &s.ResistenciaNoDrenada, &s.ÍndicePlástico, &s.OCR})
+        e.Real(t->Leer(st)).Fin();
+      e.Real(s.Determinante.Leer(st)).Fin();
+    }
     e.Entero(p.Roca.MétodoModuloCortante).Fin();
     e.Real(p.Roca.PeríodoFundamental).Fin();
   }
@@ -205,7 +209,7 @@ void EscribirCuerpoF(EscritorSecuencial& e, const Proyecto& p) {
   if (s.RegistroDado) {
     e.Entero(s.NúmeroPuntosRegistro).Fin();
     for (long t = 1; t <= s.NúmeroPuntosRegistro; ++t)
-      e.Real(s.Registro.Leer(t, 1)).Real(s.Registro.Leer(t, 2)).Real(s.Registro.Leer(t, 3)).Fin();
+      e.Real(s.TiempoRegistro.Leer(t)).Real(s.AceleraciónHorizontal.Leer(t)).Real(s.AceleraciónVertical.Leer(t)).Fin();
   }
   e.Bandera(s.SismoIntegrado).Fin();
   e.Real(s.ResultadoSísmico1).Real(s.ResultadoSísmico2).Fin();
@@ -227,16 +231,16 @@ void EscribirCuerpoF(EscritorSecuencial& e, const Proyecto& p) {
     }
     e.Real(s.FactorSísmicoMínimo).Entero(s.PasoFactorSísmico).Entero(s.ElementoFactorSísmico).Fin();
   }
-  const long g = s.GradosDeLibertad;
+  const long g = s.NúmeroGradosLibertad;
   e.Bandera(s.MatricesSísmicasDadas).Fin();
   if (s.MatricesSísmicasDadas) {
     e.Entero(g).Fin();
     if (g > 1) e.Entero(s.AnchoBanda1).Entero(s.AnchoBanda2).Fin();
-    std::size_t i = 0;
-    for (long f = 0; f < g * g; ++f) {
-      e.Real(Casilla(s.MatricesCondensadas, i)).Real(Casilla(s.MatricesCondensadas, i + 1)).Real(Casilla(s.MatricesCondensadas, i + 2)).Fin();
-      i += 3;
-    }
+    // One row an entry (i, j), row by row: stiffness, mass and damping.
+    for (long i = 1; i <= g; ++i)
+      for (long j = 1; j <= g; ++j)
+        e.Real(s.MatrizRigidezCondensada.Leer(i, j)).Real(s.MatrizMasaCondensada.Leer(i, j))
+            .Real(s.MatrizAmortiguamientoCondensada.Leer(i, j)).Fin();
     if (g > 1) {
       for (long k = 0; k < s.AnchoBanda1; ++k) e.Real(Casilla(s.Banda1, static_cast<std::size_t>(k))).Fin();
       for (long k = 0; k < s.AnchoBanda2; ++k) e.Real(Casilla(s.Banda2, static_cast<std::size_t>(k))).Fin();
@@ -244,13 +248,13 @@ void EscribirCuerpoF(EscritorSecuencial& e, const Proyecto& p) {
   }
   e.Bandera(s.FrecuenciasDadas).Fin();
   if (s.FrecuenciasDadas)
-    for (long k = 0; k < g; ++k) e.Real(Casilla(s.Frecuencia, static_cast<std::size_t>(k))).Fin();
+    for (long k = 1; k <= g; ++k) e.Real(s.Frecuencia.Leer(k)).Fin();
   e.Bandera(s.FormasModalesDadas).Fin();
   if (s.FormasModalesDadas)
-    for (long f = 0; f < g; ++f)
-      for (long k = 0; k < g; k += 2) {
-        e.Real(Casilla(s.FormasModales, static_cast<std::size_t>(f * g + k)));
-        if (k + 1 < g) e.Real(Casilla(s.FormasModales, static_cast<std::size_t>(f * g + k + 1)));
+    for (long f = 1; f <= g; ++f)
+      for (long k = 1; k <= g; k += 2) {
+        e.Real(s.MatrizFormasModales.Leer(f, k));
+        if (k + 1 <= g) e.Real(s.MatrizFormasModales.Leer(f, k + 1));
         e.Fin();
       }
 
@@ -461,18 +465,27 @@ void LeerCuerpoF(LectorSecuencial& l, Proyecto& p) {
 
   l.LeerBandera(s.ParámetrosSísmicosDados);
   if (s.ParámetrosSísmicosDados) {
-    s.ParámetroSísmico.Redimensionar(ne, 7);
-    for (long st = 1; st <= ne; ++st)
-      for (long k = 1; k <= 7; ++k) s.ParámetroSísmico(st, k) = l.LeerReal();
+    for (Tabla<double>* t : {&s.VelocidadOndaCorte, &s.DistorsiónCortante, &s.RelaciónVacíos,
+                             &s.ResistenciaNoDrenada, &s.ÍndicePlástico, &s.OCR})
+      t->Redimensionar(ne);
+    s.Determinante.Redimensionar(ne);
+    for (long st = 1; st <= ne; ++st) {
+      for (Tabla<double>* t : {&s.VelocidadOndaCorte, &s.DistorsiónCortante, &s.RelaciónVacíos,
+                               &s.ResistenciaNoDrenada, &s.ÍndicePlástico, &s.OCR})
+        (*t)[st] = l.LeerReal();
+      s.Determinante[st] = static_cast<DatosSísmicos::Entero>(l.LeerEntero());
+    }
     p.Roca.MétodoModuloCortante = l.LeerEntero();
     p.Roca.PeríodoFundamental = l.LeerReal();
   }
   l.LeerBandera(s.RegistroDado);
   if (s.RegistroDado) {
     s.NúmeroPuntosRegistro = Cuenta(l);
-    s.Registro.Redimensionar(s.NúmeroPuntosRegistro, 3);
+    for (Tabla<double>* c : {&s.TiempoRegistro, &s.AceleraciónHorizontal, &s.AceleraciónVertical})
+      c->Redimensionar(s.NúmeroPuntosRegistro);
     for (long t = 1; t <= s.NúmeroPuntosRegistro; ++t)
-      for (long k = 1; k <= 3; ++k) s.Registro(t, k) = l.LeerReal();
+      for (Tabla<double>* c : {&s.TiempoRegistro, &s.AceleraciónHorizontal, &s.AceleraciónVertical})
+        (*c)[t] = l.LeerReal();
   }
   l.LeerBandera(s.SismoIntegrado);
   s.ResultadoSísmico1 = l.LeerReal();
@@ -506,15 +519,19 @@ void LeerCuerpoF(LectorSecuencial& l, Proyecto& p) {
     }
   l.LeerBandera(s.MatricesSísmicasDadas);
   if (s.MatricesSísmicasDadas) {
-    s.GradosDeLibertad = Cuenta(l);
-    const long g = s.GradosDeLibertad;
+    s.NúmeroGradosLibertad = Cuenta(l);
+    const long g = s.NúmeroGradosLibertad;
     Tamaño(g * 3, g);
     if (g > 1) {
       s.AnchoBanda1 = Cuenta(l);
       s.AnchoBanda2 = Cuenta(l);
     }
-    s.MatricesCondensadas.resize(static_cast<std::size_t>(g * g * 3));
-    for (double& x : s.MatricesCondensadas) x = l.LeerReal();
+    for (Tabla2<double>* t : {&s.MatrizRigidezCondensada, &s.MatrizMasaCondensada, &s.MatrizAmortiguamientoCondensada})
+      t->Redimensionar(g, g);
+    for (long i = 1; i <= g; ++i)
+      for (long j = 1; j <= g; ++j)
+        for (Tabla2<double>* t : {&s.MatrizRigidezCondensada, &s.MatrizMasaCondensada, &s.MatrizAmortiguamientoCondensada})
+          (*t)(i, j) = l.LeerReal();
     if (g > 1) {
       s.Banda1.resize(static_cast<std::size_t>(s.AnchoBanda1));
       for (double& x : s.Banda1) x = l.LeerReal();
@@ -522,17 +539,19 @@ void LeerCuerpoF(LectorSecuencial& l, Proyecto& p) {
       for (double& x : s.Banda2) x = l.LeerReal();
     }
   }
-  const long g = s.GradosDeLibertad;
+  const long g = s.NúmeroGradosLibertad;
   l.LeerBandera(s.FrecuenciasDadas);
   if (s.FrecuenciasDadas) {
-    s.Frecuencia.resize(static_cast<std::size_t>(g));
-    for (double& x : s.Frecuencia) x = l.LeerReal();
+    s.Frecuencia.Redimensionar(g);
+    s.NúmeroFrecuencias = static_cast<DatosSísmicos::Entero>(g);
+    for (long k = 1; k <= g; ++k) s.Frecuencia[k] = l.LeerReal();
   }
   l.LeerBandera(s.FormasModalesDadas);
   if (s.FormasModalesDadas) {
     Tamaño(g, g);
-    s.FormasModales.resize(static_cast<std::size_t>(g * g));
-    for (double& x : s.FormasModales) x = l.LeerReal();
+    s.MatrizFormasModales.Redimensionar(g, g);
+    for (long f = 1; f <= g; ++f)
+      for (long k = 1; k <= g; ++k) s.MatrizFormasModales(f, k) = l.LeerReal();
   }
 
   p.NúmeroCargasUniformes = Cuenta(l);

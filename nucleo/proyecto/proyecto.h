@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "proyecto/datos_sismicos.h"
 #include "proyecto/ventana_principal.h"
 #include "proyecto/tabla.h"
 
@@ -221,29 +222,6 @@ struct MallaElementos {
 
   double FSFinalElementos = 0;
   void Limpiar() { *this = MallaElementos{}; }
-};
-
-// The seismic data and results. Until the seismic analysis is built they are carried as they are
-// read, so that a project keeps them across a save.
-struct DatosSísmicos {
-  bool RegistroDado = false, ParámetrosSísmicosDados = false, FormasModalesDadas = false,
-       FrecuenciasDadas = false, SismoCalculado = false, CálculoSísmicoHecho = false;
-  Entero PasosSísmicos = 0;
-  Entero RegistroSeleccionado = 0;
-  Tabla2<double> ParámetroSísmico;  // (stratum, 1..7): VelocidadCorte, then six more
-  Entero NúmeroPuntosRegistro = 0;
-  Tabla2<double> Registro;  // (step, 1..3): tiempo, acel_h, acel_v
-  bool SismoIntegrado = false, MatricesSísmicasDadas = false;
-  double ResultadoSísmico1 = 0, ResultadoSísmico2 = 0, IntervaloTiempoSísmico = 0;
-  Entero ModoSísmico = 0;
-  // History per record step: six values a node, four and three an element.
-  std::vector<double> HistoriaNodos, HistoriaElementos4, HistoriaElementos3;
-  double FactorSísmicoMínimo = 0;
-  Entero PasoFactorSísmico = 0, ElementoFactorSísmico = 0;
-  Entero GradosDeLibertad = 0, AnchoBanda1 = 0, AnchoBanda2 = 0;
-  std::vector<double> MatricesCondensadas;  // GradosDeLibertad² rows of three
-  std::vector<double> Banda1, Banda2, Frecuencia, FormasModales;
-  void Limpiar() { *this = DatosSísmicos{}; }
 };
 
 struct Proyecto {

@@ -140,23 +140,35 @@ Proyecto ProyectoElementos(const std::string& material, bool sísmico) {
     DatosSísmicos& s = p.Sísmico;
     p.CálculoHecho = false;
     s.ParámetrosSísmicosDados = s.RegistroDado = s.SismoIntegrado = true;
-    s.ParámetroSísmico.Redimensionar(2, 7);
-    s.ParámetroSísmico(2, 7) = 150;
+    s.VelocidadOndaCorte.Redimensionar(2);
+    s.Determinante.Redimensionar(2);
+    s.VelocidadOndaCorte[2] = 150;
+    s.Determinante[2] = 2;
     s.NúmeroPuntosRegistro = 2;
-    s.Registro.Redimensionar(2, 3);
-    s.Registro(2, 1) = 0.02, s.Registro(2, 2) = 0.1, s.Registro(2, 3) = -0.05;
+    for (Tabla<double>* c : {&s.TiempoRegistro, &s.AceleraciónHorizontal, &s.AceleraciónVertical}) c->Redimensionar(2);
+    s.TiempoRegistro[2] = 0.02, s.AceleraciónHorizontal[2] = 0.1, s.AceleraciónVertical[2] = -0.05;
     s.SismoCalculado = s.CálculoSísmicoHecho = true;
     s.HistoriaNodos.assign(2 * 6 * 6, 0.5);
     s.HistoriaElementos4.assign(2 * 2 * 4, -1.5);
     s.HistoriaElementos3.assign(2 * 2 * 3, 2.25);
     s.FactorSísmicoMínimo = 1.1, s.PasoFactorSísmico = 2, s.ElementoFactorSísmico = 1;
     s.MatricesSísmicasDadas = s.FrecuenciasDadas = s.FormasModalesDadas = true;
-    s.GradosDeLibertad = 3, s.AnchoBanda1 = 2, s.AnchoBanda2 = 1;
-    for (int i = 0; i < 27; ++i) s.MatricesCondensadas.push_back(i * 0.5);
+    s.NúmeroGradosLibertad = 3, s.AnchoBanda1 = 2, s.AnchoBanda2 = 1;
+    for (Tabla2<double>* t : {&s.MatrizRigidezCondensada, &s.MatrizMasaCondensada, &s.MatrizAmortiguamientoCondensada,
+                              &s.MatrizFormasModales})
+      t->Redimensionar(3, 3);
+    s.Frecuencia.Redimensionar(3);
+    for (long i = 1; i <= 3; ++i) {
+      s.Frecuencia[i] = 4.5 * i;
+      for (long j = 1; j <= 3; ++j) {
+        s.MatrizRigidezCondensada(i, j) = i + 0.5 * j;
+        s.MatrizMasaCondensada(i, j) = i == j ? 2 : 0;
+        s.MatrizAmortiguamientoCondensada(i, j) = -0.25 * i * j;
+        s.MatrizFormasModales(i, j) = 0.25 * (3 * i + j) - 1;
+      }
+    }
     s.Banda1 = {1, 2};
     s.Banda2 = {3};
-    s.Frecuencia = {4.5, 9, 13.5};
-    for (int i = 0; i < 9; ++i) s.FormasModales.push_back(0.25 * i - 1);
   }
   return p;
 }
@@ -195,11 +207,15 @@ TEST(CuerpoElementos, IdaYVueltaConTodasLasTablas) {
     EXPECT_TRUE(b.NodosDefinidos && b.ElementosDefinidos && b.MaterialesAsignados && b.NodosRestringidosDefinidos &&
                 b.CargasUniformesDefinidas && b.CaracterísticasElásticasDadas && b.DesplazamientosHechos);
     const DatosSísmicos &s = p.Sísmico, &t = q.Sísmico;
-    EXPECT_EQ(t.Registro, s.Registro);
-    for (auto v : {&DatosSísmicos::HistoriaNodos, &DatosSísmicos::HistoriaElementos4, &DatosSísmicos::MatricesCondensadas,
-                   &DatosSísmicos::Banda1, &DatosSísmicos::Banda2, &DatosSísmicos::Frecuencia, &DatosSísmicos::FormasModales})
+    for (auto c : {&DatosSísmicos::TiempoRegistro, &DatosSísmicos::AceleraciónHorizontal, &DatosSísmicos::AceleraciónVertical,
+                   &DatosSísmicos::VelocidadOndaCorte, &DatosSísmicos::Frecuencia})
+      EXPECT_EQ(t.*c, s.*c);
+    EXPECT_EQ(t.Determinante, s.Determinante);
+    for (auto v : {&DatosSísmicos::HistoriaNodos, &DatosSísmicos::HistoriaElementos4, &DatosSísmicos::Banda1, &DatosSísmicos::Banda2})
       EXPECT_EQ(t.*v, s.*v);
-    EXPECT_EQ(t.ParámetroSísmico, s.ParámetroSísmico);
+    for (auto m : {&DatosSísmicos::MatrizRigidezCondensada, &DatosSísmicos::MatrizMasaCondensada,
+                   &DatosSísmicos::MatrizAmortiguamientoCondensada, &DatosSísmicos::MatrizFormasModales})
+      EXPECT_EQ(t.*m, s.*m);
     if (!sísmico) {
       // sigma x = -20, sigma y = -20, tau = 5 on element 1, step 1: centre -20, radius 5.
       EXPECT_DOUBLE_EQ(b.EsfuerzoPrincipalMayor(1, 1), -15);

@@ -14,6 +14,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QTextBrowser>
+#include <cmath>
 #include <cstdio>
 #include <exception>
 #include <fstream>
@@ -33,6 +34,9 @@
 #include "pantallas/anclajes.h"
 #include "pintor.h"
 #include "salida/graficos.h"
+#include "salida/registro_sismico.h"
+#include "sismico/formas_modales.h"
+#include "sismico/registro.h"
 #include "salida_figura_qt.h"
 #include "ventana_principal_qt.h"
 #include "vista_pantalla.h"
@@ -321,6 +325,81 @@ int main(int argc, char** argv) {
       delete diálogo;
     } else {
       ++fallos;
+    }
+  }
+  {
+    // The seismic data screens filled in, and the record they draw.
+    Proyecto p = muestra;
+    std::vector<FilaRegistro> filas;
+    for (int i = 0; i <= 200; ++i) {
+      const double t = 0.02 * i;
+      filas.push_back({t, 0.3 * std::exp(-0.8 * t) * std::sin(9.0 * t) * std::sin(1.3 * t + 0.4),
+                       0.12 * std::exp(-0.9 * t) * std::sin(13.0 * t)});
+    }
+    GuardarRegistro(p, filas);
+    ExportarPNG(FiguraRegistroSísmico(p), QDir(carpeta).filePath("figura_GráficaDeRegistroSísmico.png"), nullptr);
+    QDialog* diálogo = CrearDiálogoFigura(nullptr, FiguraRegistroSísmico(p));
+    Guardar(*diálogo, "diálogo_GráficaDeRegistroSísmico");
+    delete diálogo;
+    InterfazGuionada guion("N");
+    InterfazQt ui;
+    ui.Sustituto(&guion);
+    ui.AlMostrar([](VistaPantalla& vista) {
+      Guardar(vista, vista.pantalla().nombre + "_con_datos");
+      throw Corte{};
+    });
+    {
+      // Modes of a chain of six masses, as the frequencies screen shows them once chosen.
+      const long n = 6;
+      std::vector<double> K(n * n, 0.0), M(n * n, 0.0), w(n);
+      for (long i = 0; i < n; ++i) {
+        K[i * n + i] = i + 1 < n ? 2000 : 1000;
+        if (i + 1 < n) K[i * n + i + 1] = K[(i + 1) * n + i] = -1000;
+        M[i * n + i] = 1;
+        w[i] = 5 + 10 * i;
+      }
+      InterfazGuionada sí("S");
+      FormasModales r;
+      if (CalcularFormasModales(K, M, n, w, r, sí)) {
+        auto& s = p.Sísmico;
+        s.NúmeroGradosLibertad = s.NúmeroFrecuencias = n;
+        s.Frecuencia.Redimensionar(n);
+        s.MatrizFormasModales.Redimensionar(n, n);
+        for (long i = 1; i <= n; ++i) {
+          s.Frecuencia[i] = r.frecuencias[i - 1];
+          for (long m = 1; m <= n; ++m) s.MatrizFormasModales(i, m) = r.formas[(i - 1) * n + m - 1];
+        }
+        s.ModosCalculados = n;
+        s.ModoDeCálculo = 2;
+        s.GradosDeLibertadEstimados = s.FormasModalesDadas = s.FrecuenciasDefinitivas = true;
+      }
+    }
+    for (const char* orden : {"InputDeRegistrosSísmico", "CaracterísticasDeLosEstratosParaElCálculoSísmico",
+                              "DeterminaciónDeLasFrecuencias"}) {
+      if (std::string(orden) == "CaracterísticasDeLosEstratosParaElCálculoSísmico") {
+        auto& s = p.Sísmico;
+        const long n = p.NúmeroEstratos;
+        for (auto* t : {&s.VelocidadOndaCorte, &s.DistorsiónCortante, &s.RelaciónVacíos,
+                        &s.ResistenciaNoDrenada, &s.ÍndicePlástico, &s.OCR})
+          t->Redimensionar(n);
+        s.Determinante.Redimensionar(n);
+        for (long e = 1; e <= n; ++e) {
+          s.VelocidadOndaCorte[e] = 180 + 40 * e;
+          s.DistorsiónCortante[e] = 1e-6;
+          s.RelaciónVacíos[e] = 0.55 + 0.05 * e;
+          s.ÍndicePlástico[e] = e == 1 ? 0 : 15;
+          s.OCR[e] = e == 1 ? 0 : 1;
+          s.Determinante[e] = e == n ? 2 : 1;
+        }
+        s.AlturaPresa = 25;
+        s.MétodoGmax = 1;
+        s.ParámetrosSísmicosDados = true;
+      }
+      const auto árbol = ÁrbolDeMenús();
+      try {
+        if (const EntradaMenú* e = BuscarEntrada(árbol, orden)) EjecutarComando(e->acción, p, ui);
+      } catch (const Corte&) {
+      }
     }
   }
   {
