@@ -104,6 +104,8 @@ void ReiniciarProyecto(Proyecto& p) {
   p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = false;
   p.DesembalseRápido = false;
   p.PresionesExistentes = false;
+  // A radius search belongs to the project that ran it: the next project's arc is built anew.
+  p.Trabajo.RadioEnVariación = false;
   // Everything of the mesh and of the seismic analysis.
   p.Malla.Limpiar();
   p.Sísmico.Limpiar();

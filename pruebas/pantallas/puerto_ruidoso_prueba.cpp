@@ -63,14 +63,16 @@ class InterfazRuidosa : public InterfazGuionada {
   }
 };
 
+// Each method on every sample, its number chosen as the constants screen would.
 struct Método {
   const char* nombre;
   Acción acción;
+  Entero número;
 };
-const Método kMétodos[] = {{"Fellenius", MétodoFellenius},
-                           {"Bishop", MétodoBishop},
-                           {"Janbu", MétodoJanbu},
-                           {"Leshchinsky", ProcesoIterativoEnSuelos}};
+const Método kMétodos[] = {{"Fellenius", MétodoFellenius, 3},
+                           {"Bishop", MétodoBishop, 2},
+                           {"Janbu", MétodoJanbu, 4},
+                           {"Leshchinsky", ProcesoIterativoEnSuelos, 1}};
 
 // Drawdown No, then Yes to everything; the same with the iteration screen answered No, No (go on)
 // and Yes at the second iteration; and every question answered No.
@@ -89,7 +91,7 @@ std::vector<std::string> Muestras() {
 }
 
 struct Corrida {
-  std::vector<Apunte> transcripción;
+  std::vector<std::string> transcripción;
   double fs = 0;
   int iteraciones = 0;
 };
@@ -98,10 +100,11 @@ template <class Puerto>
 Corrida Correr(Proyecto& p, const std::string& muestra, const Método& m, const Guion& g) {
   Puerto abrir;
   AbrirArchivoDeProyecto(p, abrir, muestra);
+  p.ParámetrosIniciales.MétodoDeCálculo = m.número;
   Puerto ui(g.respuestas, g.porDefecto);
   EjecutarComando(m.acción, p, ui);
   Corrida c;
-  c.transcripción = ui.Transcripción();
+  for (const Apunte& a : ui.Transcripción()) c.transcripción.push_back(InterfazGuionada::Línea(a));
   c.iteraciones = p.NúmeroIteraciones;
   if (p.NúmeroIteraciones >= 1) c.fs = p.HistoriaIteraciones.FactorDeSeguridad.Leer(p.NúmeroIteraciones);
   return c;

@@ -185,13 +185,14 @@ class Contestador {
 struct Método {
   const char* nombre;
   Acción acción;
+  Entero número;  // as the constants screen would set it
 };
 
 TEST_F(Escritorio, CadaMuestraDaEnElEscritorioElFactorDelLote) {
-  const Método métodos[] = {{"Fellenius", MétodoFellenius},
-                            {"Bishop", MétodoBishop},
-                            {"Janbu", MétodoJanbu},
-                            {"Leshchinsky", ProcesoIterativoEnSuelos}};
+  const Método métodos[] = {{"Fellenius", MétodoFellenius, 3},
+                            {"Bishop", MétodoBishop, 2},
+                            {"Janbu", MétodoJanbu, 4},
+                            {"Leshchinsky", ProcesoIterativoEnSuelos, 1}};
   std::vector<std::string> muestras;
   for (const auto& e : std::filesystem::directory_iterator(LOMATERRA_EJEMPLOS))
     if (e.path().extension() == ".cod") muestras.push_back(e.path().string());
@@ -212,10 +213,12 @@ TEST_F(Escritorio, CadaMuestraDaEnElEscritorioElFactorDelLote) {
         Proyecto lote;
         InterfazGuionada abrir;
         AbrirArchivoDeProyecto(lote, abrir, muestra);
+        lote.ParámetrosIniciales.MétodoDeCálculo = m.número;
         InterfazGuionada guion(respuestas, porDefecto);
         EjecutarComando(m.acción, lote, guion);
 
         AbrirArchivoDeProyecto(escritorio, abrir, muestra);
+        escritorio.ParámetrosIniciales.MétodoDeCálculo = m.número;
         Contestador mano(respuestas, porDefecto);
         EjecutarComando(m.acción, escritorio, ui);
 
