@@ -145,6 +145,40 @@ TEST_F(Escritorio, ElDibujoSigueACadaPuntoDelPanel) {
   EXPECT_EQ(puntosDelTalud(), 2u);
 }
 
+// An iteration screen that asks as it opens: the box stands beside the screen, the factor stays
+// in view while the user answers.
+class PantallaDeIteración : public Pantalla {
+ public:
+  PantallaDeIteración() {
+    nombre = "form9";
+    título = "Resultados de las iteraciones";
+  }
+  void Activar(Interfaz& ui) override {
+    campos = {{"TextoDelFactorDeSeguridad", "Factor de seguridad:", "0.987388712", "", true}};
+    if (ui.Pregunta("¿Considera que es la solución?", título)) cerrada = true;
+  }
+};
+
+TEST_F(Escritorio, LaPreguntaDeLaIteraciónNoTapaElFactor) {
+  InterfazQt ui;
+  PantallaDeIteración pantalla;
+  QRect caja, factor;
+  QTimer::singleShot(0, [&] {
+    auto* c = qobject_cast<CajaDeMensaje*>(QApplication::activeModalWidget());
+    if (!c) return;
+    caja = c->frameGeometry();
+    if (auto* vista = c->parentWidget())
+      if (auto* casilla = vista->findChild<QLineEdit*>("TextoDelFactorDeSeguridad"))
+        factor = QRect(casilla->mapToGlobal(QPoint(0, 0)), casilla->size());
+    Foto(*c, "pregunta_iteracion");
+    c->findChild<QPushButton*>(QString::fromUtf8("BotónSí"))->click();
+  });
+  ui.Abrir(pantalla);
+  ASSERT_FALSE(caja.isNull());
+  ASSERT_FALSE(factor.isNull());
+  EXPECT_FALSE(caja.intersects(factor));
+}
+
 // ------------------------------------------------------------------------------------------------
 // The desk against the batch runner
 
