@@ -24,6 +24,7 @@
 
 #include "proyecto/compat.h"
 #include "proyecto/proyecto.h"
+#include "salida/factores.h"
 #include "vista_seccion.h"
 
 namespace lomaterra {
@@ -92,6 +93,10 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
   statusBar()->addWidget(líneaEstado_, 1);
   ui_.AlEstado([this](const QString& t) { líneaEstado_->setText(t); });
   ui_.AlNombreActual([this] { return Q(proyecto_.Ventana.NombreArchivo); });
+  etiquetaFactores_ = new QLabel(this);
+  etiquetaFactores_->setObjectName("EtiquetaFactores");
+  etiquetaFactores_->setTextFormat(Qt::PlainText);
+  statusBar()->addPermanentWidget(etiquetaFactores_);
 
   connect(textoProyecto_, &QPlainTextEdit::textChanged, this, [this] {
     if (refrescando_) return;
@@ -306,6 +311,7 @@ void VentanaPrincipalQt::Refrescar() {
     últimoEstado_ = v.TextoEstado;
     líneaEstado_->setText(Q(v.TextoEstado));
   }
+  etiquetaFactores_->setText(Q(LíneaDeFactores(proyecto_)));
   dibujo_->Actualizar();
   if (!dibujo_->Aviso().empty() && dibujo_->Aviso() != últimoAviso_)
     líneaEstado_->setText(Q(dibujo_->Aviso()));
