@@ -107,8 +107,6 @@ void ReiniciarProyecto(Proyecto& p) {
   // first calculation after New or Open finds the centre of its own arc.
   p.Trabajo.RadioEnVariación = false;
   p.PresionesExistentes = false;
-  // A radius search belongs to the project that ran it: the next project's arc is built anew.
-  p.Trabajo.RadioEnVariación = false;
   // Everything of the mesh and of the seismic analysis.
   p.Malla.Limpiar();
   p.Sísmico.Limpiar();
