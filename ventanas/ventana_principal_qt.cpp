@@ -1,5 +1,7 @@
 #include "ventana_principal_qt.h"
 
+#include <new>
+
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QFormLayout>
@@ -223,9 +225,13 @@ void VentanaPrincipalQt::Sincronizar() {
 void VentanaPrincipalQt::Correr(const Acción& acción) {
   try {
     EjecutarComando(acción, proyecto_, ui_);
-  } catch (const std::exception& e) {
-    // The last net: a fault that the core did not foresee must not take the program down.
-    ui_.Mensaje(TextoDeFallo(e.what()), TítuloDeFallo());
+  } catch (const std::bad_alloc&) {
+    // The last net: a fault that the core did not foresee must not take the program down, and
+    // its box names the cause in Spanish words.
+    ui_.Mensaje(TextoDeFallo("falta de memoria para el cálculo"), TítuloDeFallo());
+  } catch (const std::exception&) {
+    ui_.Mensaje(TextoDeFallo("una condición interna del programa que no se previó"),
+                TítuloDeFallo());
   }
   Refrescar();
 }

@@ -10,6 +10,7 @@
 #include <QFont>
 #include <QMenu>
 #include <QMenuBar>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
@@ -211,6 +212,7 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   QApplication::setFont(QFont("DejaVu Sans", 9));
+  CargarTraducciónDeQt(app);
   QApplication::setWindowIcon(IconoLomaterra());
   const QStringList argumentos = QApplication::arguments();
   carpeta = argumentos.size() > 1 ? argumentos[1] : QStringLiteral("galeria");
@@ -273,6 +275,29 @@ int main(int argc, char** argv) {
     auto pregunta =
         CrearCaja("No ha guardado los datos actuales, ¿desea guardarlos?", "", true, nullptr);
     Guardar(*pregunta, "caja_pregunta");
+    // A long text wraps and the box grows; the stratum check of the soil screen is the longest
+    // of its kind.
+    auto larga = CrearCaja(
+        "El peso unitario saturado es mayor que el peso unitario húmedo. Observe bien los valores "
+        "antes de salir de esta pantalla. ¿Es correcto el valor dado para peso unitario saturado?",
+        "", true, nullptr);
+    Guardar(*larga, "caja_texto_largo");
+    auto falla = CrearCaja(TextoDeFallo("raíz cuadrada de un número negativo en la ordenada del "
+                                        "arco de falla"),
+                           TítuloDeFallo(), false, nullptr);
+    Guardar(*falla, "caja_falla");
+    // "Guardar como" in Spanish, on the project's own file.
+    InterfazQt guardar;
+    const QString archivo = QDir::temp().filePath("presa_de_tierra.cod");
+    guardar.AlNombreActual([archivo] { return archivo; });
+    const FiltroQt f =
+        ConvertirFiltro("Todos los archivos (*.*)|*.*|Archivos de coordenadas (*.cod)|*.cod", 2);
+    QFileDialog diálogo(nullptr, QStringLiteral("Guardar como"), QString(), f.filtros);
+    diálogo.setOption(QFileDialog::DontUseNativeDialog, true);
+    guardar.ConfigurarGuardar(diálogo, f);
+    diálogo.resize(760, 460);
+    Guardar(diálogo, "dialogo_guardar_como");
+    diálogo.hide();
     // The about box with the text of its own command.
     InterfazGuionada guion;
     MenúAyudaAcercaDe(muestra, guion);
