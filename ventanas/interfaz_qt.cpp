@@ -114,6 +114,18 @@ void InterfazQt::HacerMensaje(const std::string& texto, const std::string& títu
   CrearCaja(texto, título, false, Padre())->exec();
 }
 
+void InterfazQt::HacerMensajeDetallado(const std::string& texto, const std::string& título,
+                                       const std::string& detalle) {
+  if (sustituto_) {
+    sustituto_->MensajeDetallado(texto, título, detalle);
+    return;
+  }
+  MostrarLaQueSeActiva();
+  auto caja = CrearCaja(texto, título, false, Padre());
+  caja->setDetailedText(Q(detalle));
+  caja->exec();
+}
+
 bool InterfazQt::HacerPregunta(const std::string& texto, const std::string& título) {
   if (sustituto_) return sustituto_->Pregunta(texto, título);
   MostrarLaQueSeActiva();

@@ -40,6 +40,8 @@ class InterfazQt : public Interfaz {
   explicit InterfazQt(QWidget* ventana = nullptr);
 
   void HacerMensaje(const std::string& texto, const std::string& título) override;
+  void HacerMensajeDetallado(const std::string& texto, const std::string& título,
+                             const std::string& detalle) override;
   bool HacerPregunta(const std::string& texto, const std::string& título) override;
   void HacerEstado(const std::string& texto) override;
   void HacerAbrir(Pantalla& pantalla) override;
