@@ -651,7 +651,7 @@ TEST_F(ArchivoProyecto, ArchivoTruncadoNoCambiaNada) {
   EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Error leyendo archivo"});
   EXPECT_EQ(q.InformaciónProyecto.Empresa, "Otra");
   EXPECT_EQ(q.NúmeroPuntosTalud, p.NúmeroPuntosTalud);
-  EXPECT_TRUE(q.EstratosCaracterizados);
+  EXPECT_EQ(q.NúmeroEstratos, p.NúmeroEstratos);
 }
 
 TEST_F(ArchivoProyecto, ArchivosQueNoSePuedenLeer) {
