@@ -11,7 +11,7 @@
 #include "equilibrio/sistema_bordeado.h"
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/archivo.h"
-#include "proyecto/limites.h"
+#include "equilibrio/constantes.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {
