@@ -8,6 +8,7 @@
 // Each yes/no question takes the next letter of --respuestas, then the --por-defecto answer; a
 // screen that a command opens is closed with its exit button and no change. Every box is printed
 // as one line as it appears; a summary of the results follows.
+#include <algorithm>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -22,6 +23,7 @@
 #include "proyecto/comandos.h"
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
+#include "proyecto/secuencial.h"
 #include "resumen.h"
 #include "salida/graficos.h"
 #ifdef LOMATERRA_DIBUJO
@@ -43,6 +45,20 @@ class InterfazLote : public InterfazGuionada {
   void HacerMensaje(const std::string& texto, const std::string& título) override {
     InterfazGuionada::HacerMensaje(texto, título);
     Emitir();
+  }
+  // The box's text goes on the output like every box; its detail (why a file could not be read,
+  // and where) on the error output.
+  void HacerMensajeDetallado(const std::string& texto, const std::string& título,
+                             const std::string& detalle) override {
+    InterfazGuionada::HacerMensajeDetallado(texto, título, detalle);
+    Emitir();
+    std::cerr << "lomaterra-lote: " << texto << ":\n";
+    std::size_t desde = 0;
+    while (desde <= detalle.size()) {
+      const auto fin = std::min(detalle.find('\n', desde), detalle.size());
+      std::cerr << "  " << detalle.substr(desde, fin - desde) << "\n";
+      desde = fin + 1;
+    }
   }
   bool HacerPregunta(const std::string& texto, const std::string& título) override {
     const bool r = InterfazGuionada::HacerPregunta(texto, título);
@@ -155,12 +171,36 @@ bool EscribirSalidas(const Opciones& o, const Proyecto& p) {
   return bien;
 }
 
-bool EscribirTexto(const std::string& ruta, const std::string& texto) {
-  std::ofstream f(ruta, std::ios::binary | std::ios::trunc);
-  if (!f) return false;
-  f << texto;
-  f.close();
-  return !f.fail();
+// What the project path names, when it is not a file that can be read: empty when it is one.
+std::string ProblemaDelProyecto(const std::string& ruta) {
+  namespace fs = std::filesystem;
+  std::error_code ec;
+  const fs::file_status estado = fs::status(ruta, ec);
+  if (!fs::exists(estado)) return "no existe el archivo de proyecto \"" + ruta + "\".";
+  if (fs::is_directory(estado)) return "\"" + ruta + "\" es una carpeta, no un archivo de proyecto.";
+  if (!fs::is_regular_file(estado))
+    return "\"" + ruta + "\" no es un archivo común (es un dispositivo, una tubería o un enchufe), no un archivo de proyecto.";
+  return "";
+}
+
+// An output that would write over the project itself, under its own name or another path to the
+// same file (a link, "./", a second name). Empty when every output is another file.
+std::string SalidaSobreElProyecto(const Opciones& o) {
+  namespace fs = std::filesystem;
+  std::vector<std::pair<std::string, std::string>> salidas;
+  if (o.json) salidas.push_back({"--json", *o.json});
+  if (o.guardar) salidas.push_back({"--guardar", *o.guardar});
+  if (o.pdf) salidas.push_back({"--pdf", *o.pdf});
+  for (const auto& [nombre, archivo] : o.figuras) salidas.push_back({"--figura", archivo});
+  for (const auto& [opción, ruta] : salidas) {
+    std::error_code ec;
+    const bool mismo = ruta == o.proyecto || fs::equivalent(ruta, o.proyecto, ec) ||
+                       fs::weakly_canonical(ruta, ec) == fs::weakly_canonical(o.proyecto, ec);
+    if (mismo)
+      return opción + " nombra el propio archivo de proyecto (\"" + ruta +
+             "\"): se escribiría sobre él. Dé otro nombre para la salida.";
+  }
+  return "";
 }
 
 int Correr(const std::vector<std::string>& argumentos) {
@@ -174,11 +214,11 @@ int Correr(const std::vector<std::string>& argumentos) {
   if (auto error = ComprobarComandos(árbol, o.comandos); !error.empty()) return UsoIncorrecto(error);
   if (auto error = ComprobarSalidas(o); !error.empty()) return UsoIncorrecto(error);
 
-  std::error_code ec;
-  if (!std::filesystem::is_regular_file(o.proyecto, ec)) {
-    std::cerr << "lomaterra-lote: no existe el archivo de proyecto \"" << o.proyecto << "\".\n";
+  if (auto error = ProblemaDelProyecto(o.proyecto); !error.empty()) {
+    std::cerr << "lomaterra-lote: " << error << "\n";
     return kUsoIncorrecto;
   }
+  if (auto error = SalidaSobreElProyecto(o); !error.empty()) return UsoIncorrecto(error);
 
   Proyecto p;
   InterfazLote ui(o.respuestas, o.porDefecto);
@@ -192,6 +232,7 @@ int Correr(const std::vector<std::string>& argumentos) {
   p.DatosGuardados = false;
 
   bool fallo = false;
+  std::string qué;  // what failed, for the summary
   std::string búsqueda;
   for (const auto& c : o.comandos) {
     const EntradaMenú* e = BuscarEntrada(árbol, c);
@@ -211,6 +252,7 @@ int Correr(const std::vector<std::string>& argumentos) {
     ui.Emitir();
     if (fin == FinDeComando::Fallo) {
       fallo = true;
+      qué = "el comando " + c + " terminó en falla; los comandos siguientes no se ejecutaron";
       std::cerr << "lomaterra-lote: " << c << " terminó en falla; los comandos siguientes no se ejecutaron.\n";
       break;
     }
@@ -232,6 +274,7 @@ int Correr(const std::vector<std::string>& argumentos) {
       if (!guardado) {
         std::cerr << "lomaterra-lote: no se guardó el proyecto en \"" << *o.guardar << "\".\n";
         estado = kFallo;
+        qué = "no se guardó el proyecto en \"" + *o.guardar + "\"";
       }
     }
   }
@@ -240,12 +283,14 @@ int Correr(const std::vector<std::string>& argumentos) {
     if (fallo)
       std::cerr << "lomaterra-lote: no se escribieron el informe ni las figuras porque un comando "
                    "terminó en falla.\n";
-    else if (!EscribirSalidas(o, p))
+    else if (!EscribirSalidas(o, p)) {
       estado = kFallo;
+      if (qué.empty()) qué = "no se escribieron todas las salidas pedidas";
+    }
   }
 
   const Resumen resumen = ResumirProyecto(p);
-  std::cout << ResumenComoTexto(resumen);
+  std::cout << ResumenComoTexto(resumen, qué);
   std::cout.flush();
 
   for (const auto& [ruta, rigidez] : {std::pair{o.mallaJson, false}, std::pair{o.rigidezJson, true}})
@@ -255,8 +300,9 @@ int Correr(const std::vector<std::string>& argumentos) {
     }
   if (o.json) {
     InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda};
-    if (!EscribirTexto(*o.json, InformeComoJson(informe))) {
-      std::cerr << "lomaterra-lote: no se pudo escribir \"" << *o.json << "\".\n";
+    std::string motivo;
+    if (!EscribirArchivoCompleto(*o.json, InformeComoJson(informe), &motivo)) {
+      std::cerr << "lomaterra-lote: no se pudo escribir \"" << *o.json << "\" (" << motivo << ").\n";
       estado = kFallo;
     }
   }

@@ -110,9 +110,12 @@ Resumen ResumirProyecto(const Proyecto& p) {
   return r;
 }
 
-std::string ResumenComoTexto(const Resumen& r) {
+std::string ResumenComoTexto(const Resumen& r, const std::string& falla) {
   std::ostringstream s;
   s << "--- Resumen ---\n";
+  if (!falla.empty())
+    s << "FALLA: " << falla << ". Las cifras que siguen son las que el proyecto tenía al terminar, no el "
+         "resultado de la corrida pedida.\n";
   s << "FactorDeSeguridad: " << (r.FactorDeSeguridad ? Completo(*r.FactorDeSeguridad) : "(sin cálculo)") << "\n";
   s << "Multiplicador1: " << (r.Multiplicador1 ? Completo(*r.Multiplicador1) : "(sin cálculo)") << "\n";
   s << "Multiplicador2: " << (r.Multiplicador2 ? Completo(*r.Multiplicador2) : "(sin cálculo)") << "\n";

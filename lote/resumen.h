@@ -28,8 +28,9 @@ struct Resumen {
 
 Resumen ResumirProyecto(const Proyecto& p);
 
-// The summary as lines for people.
-std::string ResumenComoTexto(const Resumen& r);
+// The summary as lines for people. `falla`, when not empty, says what failed in the run; it comes
+// first, before any figure, so that no number is read as the result of a run that did not end.
+std::string ResumenComoTexto(const Resumen& r, const std::string& falla = "");
 
 // What a run produced, for the JSON file.
 struct InformeLote {

@@ -16,6 +16,7 @@
 #include <QScrollArea>
 #include <QStyle>
 #include <algorithm>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTextBrowser>
@@ -152,6 +153,11 @@ CajaDeMensaje::CajaDeMensaje(const QString& texto, const QString& título, bool 
     b->setFocus();
   }
   connect(botones_, &QDialogButtonBox::clicked, this, [this](QAbstractButton* b) {
+    if (b == botónDetalles_) {
+      detalle_->setVisible(!detalle_->isVisible());
+      b->setText(detalle_->isVisible() ? QStringLiteral("Ocultar detalles") : QStringLiteral("Mostrar detalles"));
+      return;
+    }
     pulsado_ = b;
     accept();
   });
@@ -174,6 +180,25 @@ QList<QAbstractButton*> CajaDeMensaje::buttons() const {
 
 void CajaDeMensaje::setIconPixmap(const QPixmap& imagen) {
   icono_->setPixmap(imagen);
+}
+
+void CajaDeMensaje::setDetailedText(const QString& detalle) {
+  if (!detalle_) {
+    detalle_ = new QPlainTextEdit(this);
+    detalle_->setObjectName("DetalleCaja");
+    detalle_->setReadOnly(true);
+    detalle_->setFixedSize(kAnchoTexto, 120);
+    detalle_->hide();
+    auto* todo = static_cast<QVBoxLayout*>(layout());
+    todo->insertWidget(todo->indexOf(botones_), detalle_);
+    botónDetalles_ = botones_->addButton(QStringLiteral("Mostrar detalles"), QDialogButtonBox::ActionRole);
+    botónDetalles_->setObjectName("BotónDetalles");
+  }
+  detalle_->setPlainText(detalle);
+}
+
+QString CajaDeMensaje::detailedText() const {
+  return detalle_ ? detalle_->toPlainText() : QString();
 }
 
 void CajaDeMensaje::reject() {
@@ -226,6 +251,18 @@ void InterfazQt::HacerMensaje(const std::string& texto, const std::string& títu
   MostrarLaQueSeActiva();
   auto caja = CrearCaja(texto, título, false, Padre());
   ApartarDeLaPantalla(*caja, activando_ ? activando_ : Padre());
+  caja->exec();
+}
+
+void InterfazQt::HacerMensajeDetallado(const std::string& texto, const std::string& título,
+                                       const std::string& detalle) {
+  if (sustituto_) {
+    sustituto_->MensajeDetallado(texto, título, detalle);
+    return;
+  }
+  MostrarLaQueSeActiva();
+  auto caja = CrearCaja(texto, título, false, Padre());
+  caja->setDetailedText(Q(detalle));
   caja->exec();
 }
 

@@ -20,6 +20,7 @@ class QTranslator;
 class QDialogButtonBox;
 class QFileDialog;
 class QLabel;
+class QPlainTextEdit;
 class QScrollArea;
 class QWidget;
 
@@ -48,6 +49,9 @@ class CajaDeMensaje : public QDialog {
   QAbstractButton* clickedButton() const { return pulsado_; }
   QAbstractButton* defaultButton() const { return porDefecto_; }
   void setIconPixmap(const QPixmap& imagen);
+  // A longer explanation under a "Mostrar detalles" button, folded until the user asks for it.
+  void setDetailedText(const QString& detalle);
+  QString detailedText() const;
   // The width the text wraps at and the most height it takes before it scrolls.
   static constexpr int kAnchoTexto = 520;
   static constexpr int kAltoMáximo = 420;
@@ -64,6 +68,8 @@ class CajaDeMensaje : public QDialog {
   QAbstractButton* pulsado_ = nullptr;
   QAbstractButton* porDefecto_ = nullptr;
   QAbstractButton* escape_ = nullptr;
+  QAbstractButton* botónDetalles_ = nullptr;
+  QPlainTextEdit* detalle_ = nullptr;
 };
 
 // The box of a message (Aceptar) or of a question (Sí / No), before it is shown.
@@ -76,6 +82,8 @@ class InterfazQt : public Interfaz {
   explicit InterfazQt(QWidget* ventana = nullptr);
 
   void HacerMensaje(const std::string& texto, const std::string& título) override;
+  void HacerMensajeDetallado(const std::string& texto, const std::string& título,
+                             const std::string& detalle) override;
   bool HacerPregunta(const std::string& texto, const std::string& título) override;
   void HacerEstado(const std::string& texto) override;
   void HacerAbrir(Pantalla& pantalla) override;

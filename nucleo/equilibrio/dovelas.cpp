@@ -3,11 +3,13 @@
 #include "equilibrio/dovelas.h"
 
 #include <cmath>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "equilibrio/dovelas_interno.h"
 #include "equilibrio/constantes.h"
+#include "proyecto/compat.h"
 #include "proyecto/fallos.h"
 #include "proyecto/interfaz.h"
 
@@ -22,6 +24,10 @@ double Pendiente(double x1, double y1, double x2, double y2) {
 }
 
 double Lagrange(const TablaXY& puntos, long desde, long hasta, double x) {
+  if (desde < 1 || hasta > puntos.X.Tamaño())
+    throw FalloAritmético("el polinomio de la superficie de falla pide los puntos " + std::to_string(desde) +
+                          " a " + std::to_string(hasta) + " y la tabla tiene " +
+                          std::to_string(puntos.X.Tamaño()));
   double suma = 0.0;
   for (long c = desde; c <= hasta; ++c) {
     double término = puntos.Y.Leer(c);
@@ -41,10 +47,20 @@ int TramoDePunto(const Proyecto& p, long i) {
   return 0;
 }
 
+long PuntoDeTramo(const Proyecto& p, long t, bool final) {
+  const double v = final ? p.TramoFalla.PuntoFinal.Leer(t) : p.TramoFalla.PuntoInicial.Leer(t);
+  if (!(v >= 1 && v <= p.NúmeroPuntosFalla))
+    throw FalloAritmético("el tramo " + std::to_string(t) + " de la superficie de falla nombra como punto " +
+                          (final ? "final " : "inicial ") + "el " + NúmeroATexto(v) +
+                          ", que no es un punto de la superficie (hay " +
+                          std::to_string(p.NúmeroPuntosFalla) + ")");
+  return static_cast<long>(v);  // within 1 .. 32767: the conversion is defined
+}
+
 double PendienteTramo(const Proyecto& p, int t) {
   const auto& f = p.CoordenadasFalla;
-  const long a = static_cast<long>(p.TramoFalla.PuntoInicial.Leer(t));
-  const long b = static_cast<long>(p.TramoFalla.PuntoFinal.Leer(t));
+  const long a = PuntoDeTramo(p, t, false);
+  const long b = PuntoDeTramo(p, t, true);
   return Pendiente(f.X.Leer(a), f.Y.Leer(a), f.X.Leer(b), f.Y.Leer(b));
 }
 
@@ -139,8 +155,8 @@ double IntersecciónPolinomio(Proyecto& p, long i, double mf, double ys0, double
   auto& t = p.Trabajo;
   const auto& P = t.PuntosFalla;
   const int tramo = TramoDePunto(p, i);
-  const long desde = static_cast<long>(p.TramoFalla.PuntoInicial.Leer(tramo));
-  const long hasta = static_cast<long>(p.TramoFalla.PuntoFinal.Leer(tramo));
+  const long desde = PuntoDeTramo(p, tramo, false);
+  const long hasta = PuntoDeTramo(p, tramo, true);
   auto estrato = [&](double x) { return ys0 + ms * (x - xs0); };
   auto propio = [&](double x) { return Lagrange(P, desde, hasta, x) - estrato(x); };
   const double xi = P.X.Leer(i);

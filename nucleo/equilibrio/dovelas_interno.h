@@ -22,6 +22,11 @@ double Lagrange(const TablaXY& puntos, long desde, long hasta, double x);
 // (PuntoInicial <= i < PuntoFinal); 0 when none.
 int TramoDePunto(const Proyecto& p, long i);
 
+// The point of CoordenadasFalla that stretch t names as its first (`final` false) or its last
+// point. The table keeps it as a double: a value that is not the number of an existing point ends
+// the calculation with a fault before it is used, and no conversion out of range is ever made.
+long PuntoDeTramo(const Proyecto& p, long t, bool final);
+
 // Slope of the chord of stretch t, from its first to its last point of CoordenadasFalla.
 double PendienteTramo(const Proyecto& p, int t);
 

@@ -28,8 +28,8 @@ int EstratoDeBase(const Proyecto& p, long i) {
 
 double OrdenadaDeFalla(Proyecto& p, Interfaz& ui, double m, int tramo, double x) {
   const auto& f = p.CoordenadasFalla;
-  const long a = static_cast<long>(p.TramoFalla.PuntoInicial.Leer(tramo));
-  const long b = static_cast<long>(p.TramoFalla.PuntoFinal.Leer(tramo));
+  const long a = PuntoDeTramo(p, tramo, false);
+  const long b = PuntoDeTramo(p, tramo, true);
   const std::string letra = p.TramoFalla.TipoUnión.Leer(tramo);
   if (letra == "C") {
     if (p.NúmeroTramosFalla > 1) AjusteArcoEntrePuntos(p, ui, static_cast<int>(a), static_cast<int>(b));
@@ -120,8 +120,8 @@ void GeneraciónDeDovelas(Proyecto& p, Interfaz& ui) {
     const double x = d.BordeX[e];
     for (int tr = 1; tr <= p.NúmeroTramosFalla; ++tr) {
       const double m = PendienteTramo(p, tr);
-      const double xi = f.X.Leer(static_cast<long>(p.TramoFalla.PuntoInicial.Leer(tr)));
-      const double xf = f.X.Leer(static_cast<long>(p.TramoFalla.PuntoFinal.Leer(tr)));
+      const double xi = f.X.Leer(PuntoDeTramo(p, tr, false));
+      const double xf = f.X.Leer(PuntoDeTramo(p, tr, true));
       if ((xf <= x && x < xi) || (m > 0 && x > xi)) d.BordeYFalla[e] = OrdenadaDeFalla(p, ui, m, tr, x);
     }
   }
@@ -129,8 +129,8 @@ void GeneraciónDeDovelas(Proyecto& p, Interfaz& ui) {
     const double x = d.XMedio[i];
     for (int tr = 1; tr <= p.NúmeroTramosFalla; ++tr) {
       const double m = PendienteTramo(p, tr);
-      const double xi = f.X.Leer(static_cast<long>(p.TramoFalla.PuntoInicial.Leer(tr)));
-      const double xf = f.X.Leer(static_cast<long>(p.TramoFalla.PuntoFinal.Leer(tr)));
+      const double xi = f.X.Leer(PuntoDeTramo(p, tr, false));
+      const double xf = f.X.Leer(PuntoDeTramo(p, tr, true));
       if ((xf <= x && x < xi) || (m > 0 && x >= xi) || (m < 0 && x <= xf)) {
         d.YBase[i] = OrdenadaDeFalla(p, ui, m, tr, x);
         break;

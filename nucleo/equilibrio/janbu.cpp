@@ -16,6 +16,7 @@ namespace lomaterra {
 
 namespace {
 
+constexpr double kAnchoMínimoJanbu = 0.02;
 
 void AgregarFactor(Proyecto& p, double fs) {
   ++p.NúmeroIteraciones;
@@ -88,6 +89,25 @@ void IteraciónJanbu(Proyecto& p, Interfaz& ui, int límitePasadas, bool roca) {
     AvisoSinDovelas(ui);
     devolverHistoria();
     return;
+  }
+
+  // Slices narrower than twice the 0.01 within which an edge takes the surface height of the
+  // vertex before: the thrust line would meet a step of a whole vertex in a slice's width and the
+  // iteration would run away. Refused before anything is changed, with the count that does run.
+  {
+    const double ancho = (p.Trabajo.XMáximaFalla - p.Trabajo.XMínimaFalla) / pi.NúmeroDovelas;
+    if (ancho > 0 && ancho < kAnchoMínimoJanbu) {
+      const long máximo = static_cast<long>((p.Trabajo.XMáximaFalla - p.Trabajo.XMínimaFalla) / kAnchoMínimoJanbu);
+      ui.Mensaje("Con " + Formato(pi.NúmeroDovelas, "#") + " dovelas cada una tiene " + Formato(ancho, "#0.0000") +
+                     " m de ancho, menos de " + Formato(kAnchoMínimoJanbu, "#0.00") +
+                     " m. A esa escala la altura del talud en un borde a menos de 0.01 m de un vértice se "
+                     "toma del vértice anterior y la línea de empuje del método de Janbu no converge. Para "
+                     "esta superficie de falla use a lo sumo " + std::to_string(máximo) +
+                     " dovelas y calcule de nuevo.",
+                 "Dovelas demasiado angostas");
+      devolverHistoria();
+      return;
+    }
   }
 
   // Set-up.

@@ -113,8 +113,10 @@ DatosVariacionales LeerDatosVariacionales(const Proyecto& p, bool pesoEquivalent
     dv.u[k] = d.PresiónPoros.Leer(i);
     dv.p[k] = d.PresiónPorosMedia.Leer(i);
     // Water standing over the surface enters the column of the differential equation as a
-    // weighted mean of soil and water, unless a rapid drawdown has taken it away.
-    if (pesoEquivalente && dv.yw[k] > dv.yt[k] && !p.DesembalseRápido)
+    // weighted mean of soil and water, unless a rapid drawdown has taken it away. A thin end slice
+    // whose base stands a hair above the surface (the arc leaving the slope between two points of
+    // the table) has the water level on its base and no column to average.
+    if (pesoEquivalente && dv.yw[k] > dv.yt[k] && dv.yw[k] > dv.y[k] && !p.DesembalseRápido)
       dv.ge[k] = Div((dv.yt[k] - dv.y[k]) * dv.gm[k] + (dv.yw[k] - dv.yt[k]), dv.yw[k] - dv.y[k],
                      "el peso unitario equivalente de la columna");
     else
@@ -144,29 +146,36 @@ DatosVariacionales LeerDatosVariacionales(const Proyecto& p, bool pesoEquivalent
 // ---------------------------------------------------------------------------------------------
 // The systems
 
-void SistemaPrimerCampo(const DatosVariacionales& dv, const FilaVariacional& fila, MatrizDensa& A,
+void SistemaPrimerCampo(const DatosVariacionales& dv, const FilaVariacional& fila, SistemaBordeado& A,
                         std::vector<double>& r) {
   const long n = dv.n;
   const auto& σ = fila.σ;
-  A = MatrizDensa(n);
+  A = SistemaBordeado(n, 0);
   r.assign(Z(n + 1), 0.0);
   for (long i = 1; i <= n - 1; ++i) {
     const std::size_t k = Z(i);
     const double hA = dv.h[k], hD = dv.h[k + 1];
     const double a = Div(dv.g(i, fila.µ1, fila.µ2, fila.F), dv.d[k], "la ecuación diferencial");
-    if (i > 1) A(i, i - 1) = hD * hD * a;
-    A(i, i) = (hA * hA - hD * hD) * a + 2 * dv.t[k];
-    A(i, i + 1) = -hA * hA * a;
+    if (i > 1) A.inf[k] = hD * hD * a;
+    A.diag[k] = (hA * hA - hD * hD) * a + 2 * dv.t[k];
+    A.sup[k] = -hA * hA * a;
     r[k] = dv.f(i, fila.µ1, fila.µ2, fila.F);
     // The column of the crest stress is known: it goes to the right-hand side.
     if (i == 1) r[k] -= hD * hD * a * σ[1];
   }
   const double gn = dv.g(n, fila.µ1, fila.µ2, fila.F);
-  A(n, n - 3) = dv.w.w1 * gn;
-  A(n, n - 2) = dv.w.w2 * gn;
-  A(n, n - 1) = dv.w.w3 * gn;
-  A(n, n) = dv.w.w4 * gn + 2 * dv.t[Z(n)];
+  A.atrás3 = dv.w.w1 * gn;
+  A.atrás2 = dv.w.w2 * gn;
+  A.inf[Z(n)] = dv.w.w3 * gn;
+  A.diag[Z(n)] = dv.w.w4 * gn + 2 * dv.t[Z(n)];
   r[Z(n)] = dv.f(n, fila.µ1, fila.µ2, fila.F);
+}
+
+void SistemaPrimerCampo(const DatosVariacionales& dv, const FilaVariacional& fila, MatrizDensa& A,
+                        std::vector<double>& r) {
+  SistemaBordeado s;
+  SistemaPrimerCampo(dv, fila, s, r);
+  A = s.ComoDensa();
 }
 
 namespace {
@@ -213,13 +222,13 @@ SumasEquilibrio SumasDeEquilibrio(const DatosVariacionales& dv, const FilaVariac
   return s;
 }
 
-void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, MatrizDensa& J,
+void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, SistemaBordeado& J,
                    std::vector<double>& R) {
   const long n = dv.n;
   const long m = n + 3;
   const double µ1 = fila.µ1, µ2 = fila.µ2, F = fila.F, kh = dv.kh, kv = dv.kv;
   const auto& σ = fila.σ;
-  J = MatrizDensa(m);
+  J = SistemaBordeado(n, 3);
   R.assign(Z(m + 1), 0.0);
 
   // The differential equation at the slices 1 .. n − 1, by the three-point derivative.
@@ -230,19 +239,19 @@ void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, Ma
     const double g = dv.g(l, µ1, µ2, F);
     const double Ed = Div(E, d, "la ecuación diferencial");
     const double gd = Div(g, d, "la ecuación diferencial");
-    J(l, 1) = Ed * dv.t[k] - ((1 + kv) * dv.ge[k] * F + dv.p[k] * dv.t[k]);
-    J(l, 2) = Ed * F - kh * F * dv.ge[k];
-    J(l, 3) = -Ed * (dv.y[k] - µ2) + (dv.x[k] - µ1) * (1 + kv) * dv.ge[k] -
+    J.Borde(l, 1) = Ed * dv.t[k] - ((1 + kv) * dv.ge[k] * F + dv.p[k] * dv.t[k]);
+    J.Borde(l, 2) = Ed * F - kh * F * dv.ge[k];
+    J.Borde(l, 3) = -Ed * (dv.y[k] - µ2) + (dv.x[k] - µ1) * (1 + kv) * dv.ge[k] -
               (dv.y[k] - µ2) * kh * dv.ge[k];
     if (l == 1) {
-      J(1, 4) = -((hA * hA - hD * hD) * gd + 2 * dv.t[k]);
-      J(1, 5) = hA * hA * gd;
+      J.diag[1] = -((hA * hA - hD * hD) * gd + 2 * dv.t[k]);
+      J.sup[1] = hA * hA * gd;
     } else {
       // In this one entry the tangent is that of the slice before.
       const double G = (dv.y[k] - µ2) * F + (dv.x[k] - µ1) * dv.t[k - 1];
-      J(l, l + 2) = -hD * hD * gd;
-      J(l, l + 3) = -((hA * hA - hD * hD) * Div(G, d, "la ecuación diferencial") + 2 * dv.t[k]);
-      J(l, l + 4) = hA * hA * gd;
+      J.inf[k] = -hD * hD * gd;
+      J.diag[k] = -((hA * hA - hD * hD) * Div(G, d, "la ecuación diferencial") + 2 * dv.t[k]);
+      J.sup[k] = hA * hA * gd;
     }
     R[k] = -(hA * hA * gd * σ[k + 2] - ((hA * hA - hD * hD) * gd + 2 * dv.t[k]) * σ[k + 1] -
              hD * hD * gd * σ[k] + dv.f(l, µ1, µ2, F));
@@ -255,14 +264,14 @@ void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, Ma
     const auto& w = dv.w;
     const double Dn = w.w1 * σ[k - 2] + w.w2 * σ[k - 1] + w.w3 * σ[k] + w.w4 * σ[k + 1];
     const double g = dv.g(n, µ1, µ2, F);
-    J(n, 1) = -Dn * dv.t[k] + (1 + kv) * dv.ge[k] * F + dv.t[k] * dv.p[k];
-    J(n, 2) = -Dn * F + kh * F * dv.ge[k];
-    J(n, 3) =
+    J.Borde(n, 1) = -Dn * dv.t[k] + (1 + kv) * dv.ge[k] * F + dv.t[k] * dv.p[k];
+    J.Borde(n, 2) = -Dn * F + kh * F * dv.ge[k];
+    J.Borde(n, 3) =
         Dn * (dv.y[k] - µ2) - (dv.x[k] - µ1) * (1 + kv) * dv.ge[k] + (dv.y[k] - µ2) * kh * dv.ge[k];
-    J(n, n) = g * w.w1;
-    J(n, n + 1) = g * w.w2;
-    J(n, n + 2) = g * w.w3;
-    J(n, n + 3) = g * w.w4 + 2 * dv.t[k];
+    J.atrás3 = g * w.w1;
+    J.atrás2 = g * w.w2;
+    J.inf[k] = g * w.w3;
+    J.diag[k] = g * w.w4 + 2 * dv.t[k];
     R[k] = -(Dn + g + (σ[k + 1] - dv.u[k]) * 2 * dv.t[k] + 2 * dv.c[k] -
              ((1 + kv) * dv.ge[k] * F + dv.p[k] * dv.t[k]) * (dv.x[k] - µ1) +
              kh * F * dv.ge[k] * (dv.y[k] - µ2));
@@ -286,18 +295,25 @@ void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, Ma
       jV -= q.Py;
       jM += q.X * q.Py - q.Y * q.Px;
     }
-    J(n + 1, i + 3) = (dv.t[k] - dv.s[k] * F) * b;
-    J(n + 2, i + 3) = (dv.t[k] * dv.s[k] + F) * b;
-    J(n + 3, i + 3) =
+    J.Fila(1, i) = (dv.t[k] - dv.s[k] * F) * b;
+    J.Fila(2, i) = (dv.t[k] * dv.s[k] + F) * b;
+    J.Fila(3, i) =
         ((dv.y[k] - dv.x[k] * dv.s[k]) * dv.t[k] - (dv.s[k] * dv.y[k] + dv.x[k]) * F) * b;
   }
-  J(n + 1, 3) = jH - dv.EmpujeGrieta;
-  J(n + 2, 3) = jV;
-  J(n + 3, 3) = jM - dv.BrazoGrieta * dv.EmpujeGrieta;
+  J.esquina[0][2] = jH - dv.EmpujeGrieta;
+  J.esquina[1][2] = jV;
+  J.esquina[2][2] = jM - dv.BrazoGrieta * dv.EmpujeGrieta;
   const SumasEquilibrio s = SumasDeEquilibrio(dv, fila);
   R[Z(n + 1)] = -s.horizontal;
   R[Z(n + 2)] = -s.vertical;
   R[Z(n + 3)] = -s.momento;
+}
+
+void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, MatrizDensa& J,
+                   std::vector<double>& R) {
+  SistemaBordeado s;
+  SistemaNewton(dv, fila, s, R);
+  J = s.ComoDensa();
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -393,14 +409,13 @@ struct Corrida {
   bool PasoNewton() {
     LeerFila(p.NúmeroIteraciones);
     fila.σ[1] = σCresta;  // the crest stress is the boundary value and never changes
-    MatrizDensa J;
-    std::vector<double> R;
+    SistemaBordeado J;
+    std::vector<double> R, Δ;
     SistemaNewton(dv, fila, J, R);
-    if (!InvertirSinPivoteo(J)) {
+    if (!ResolverBordeado(J, R, Δ)) {
       ui.Mensaje(kTextoDeterminanteCero, kTítuloDeterminanteCero);
       return false;
     }
-    const std::vector<double> Δ = Multiplicar(J, R);
     const char* dónde = "el paso de Newton";
     FilaVariacional nueva = fila;
     nueva.µ1 = Finito(fila.µ1 + Δ[1], dónde);
@@ -477,15 +492,14 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
 
   // First stress field
   {
-    MatrizDensa A;
-    std::vector<double> r;
+    SistemaBordeado A;
+    std::vector<double> r, σ;
     SistemaPrimerCampo(cr.dv, cr.fila, A, r);
-    if (!InvertirSinPivoteo(A)) {
+    if (!ResolverBordeado(A, r, σ)) {
       cr.AnotarFila(1);
       ui.Mensaje(kTextoDeterminanteCero, kTítuloDeterminanteCero);
       return;
     }
-    const std::vector<double> σ = Multiplicar(A, r);
     for (long j = 2; j <= n + 1; ++j)
       cr.fila.σ[Z(j)] = Finito(σ[Z(j - 1)], "el primer campo de esfuerzos");
     if (p.SigmaCorregidaDisponible && static_cast<long>(corregidos.size()) == n + 2)

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "equilibrio/matrices.h"
+#include "equilibrio/sistema_bordeado.h"
 
 namespace lomaterra {
 
@@ -69,7 +70,10 @@ struct FilaVariacional {
   std::vector<double> σ;
 };
 
-// The first stress field: A·σ = r for σ[2..n+1] with the crest stress known.
+// The first stress field: A·σ = r for σ[2..n+1] with the crest stress known. The calculation
+// solves it in the shape of its band; the dense form is the reference the band is checked against.
+void SistemaPrimerCampo(const DatosVariacionales& dv, const FilaVariacional& fila, SistemaBordeado& A,
+                        std::vector<double>& r);
 void SistemaPrimerCampo(const DatosVariacionales& dv, const FilaVariacional& fila, MatrizDensa& A,
                         std::vector<double>& r);
 
@@ -78,7 +82,11 @@ struct SumasEquilibrio {
 };
 SumasEquilibrio SumasDeEquilibrio(const DatosVariacionales& dv, const FilaVariacional& fila);
 
-// The Newton system: J (n + 3) and the residuals R, with the unknowns µ1, µ2, F, σ[2..n+1].
+// The Newton system: J (n + 3) and the residuals R, with the unknowns µ1, µ2, F, σ[2..n+1]; in
+// the shape of its band (tridiagonal in the stresses, bordered by µ1, µ2, F and the three sums) and,
+// for reference, dense.
+void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, SistemaBordeado& J,
+                   std::vector<double>& R);
 void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, MatrizDensa& J,
                    std::vector<double>& R);
 

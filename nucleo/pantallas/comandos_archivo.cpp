@@ -175,8 +175,9 @@ void ArchivoNuevo(Proyecto& p, Interfaz& ui) {
 }
 
 void AbrirArchivoDeProyecto(Proyecto& p, Interfaz& ui, const std::string& ruta) {
-  // A failed read keeps what was read and is shown as the open project.
-  LeerProyecto(p, ruta, ui);
+  // A file that cannot be read as a whole changes nothing: the project open stays open, with
+  // its name and title.
+  if (!LeerProyecto(p, ruta, ui)) return;
   TítuloTrasArchivo(p, ruta);
   p.DatosGuardados = false;
   CargarPanelCoordenadas(p, 1, 1);

@@ -33,6 +33,12 @@ void InterfazGuionada::HacerMensaje(const std::string& texto, const std::string&
   apuntes_.push_back({"mensaje", título, texto, ""});
 }
 
+void InterfazGuionada::HacerMensajeDetallado(const std::string& texto, const std::string& título,
+                                             const std::string& detalle) {
+  apuntes_.push_back({"mensaje", título, texto, ""});
+  últimoDetalle_ = detalle;
+}
+
 bool InterfazGuionada::HacerPregunta(const std::string& texto, const std::string& título) {
   bool r = porDefecto_;
   if (!respuestas_.empty()) {

@@ -33,6 +33,8 @@ class InterfazGuionada : public Interfaz {
 
  protected:
   void HacerMensaje(const std::string& texto, const std::string& título) override;
+  void HacerMensajeDetallado(const std::string& texto, const std::string& título,
+                             const std::string& detalle) override;
   bool HacerPregunta(const std::string& texto, const std::string& título) override;
   void HacerEstado(const std::string& texto) override;
   void HacerAbrir(Pantalla& pantalla) override;
@@ -62,6 +64,9 @@ class InterfazGuionada : public Interfaz {
   void CancelarProgresoTras(int n) { cancelarTras_ = n; }
   int Progresos() const { return progresos_; }
   std::string ÚltimoEstado() const { return últimoEstado_; }
+  // The unfolded explanation of the last message that had one (the reason and line of a file
+  // that could not be read); the transcript keeps the box's own text.
+  const std::string& ÚltimoDetalle() const { return últimoDetalle_; }
 
   // One line of the batch transcript: "[mensaje] TÍTULO | TEXTO", "[pregunta] ... -> S".
   static std::string Línea(const Apunte& a);
@@ -73,6 +78,7 @@ class InterfazGuionada : public Interfaz {
   std::deque<std::string> archivos_;
   std::vector<Apunte> apuntes_;
   std::string últimoEstado_;
+  std::string últimoDetalle_;
   int profundidad_ = 0;
   int progresos_ = 0;
   int cancelarTras_ = -1;

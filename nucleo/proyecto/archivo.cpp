@@ -5,7 +5,10 @@
 
 #include <algorithm>
 #include <new>
+#include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "proyecto/archivo_elementos.h"
 #include "proyecto/compat.h"
@@ -206,9 +209,10 @@ void EscribirCuerpoT(EscritorSecuencial& e, const Proyecto& p) {
     }
   }
 
-  // Heights of the lateral force of Janbu: written for every slice whatever CálculoHecho says,
-  // read back only when it is true. With no calculation there are no slices and the two agree.
-  if (pi.MétodoDeCálculo == 4)
+  // Heights of the lateral force of Janbu: only after a finished calculation, when the slices
+  // were written above, since only then can the reader know how many to read. A run that did not
+  // finish (no convergence, or left by the user) keeps them in memory but not in the file.
+  if (pi.MétodoDeCálculo == 4 && p.CálculoHecho)
     for (long i = 1; i <= p.NúmeroBordes - 1; ++i) e.Real(p.TablaDovelas.AlturaEmpuje.Leer(i)).Fin();
   if (pi.UsaParámetrosInstantáneos) e.Entero(pi.ParámetrosInstantáneos).Fin();
 
@@ -232,11 +236,19 @@ Entero LeerCuenta(LectorSecuencial& l) {
 
 // A two-index table no real project comes near: the file is damaged.
 void ComprobarTamaño(long filas, long columnas) {
-  if (filas * columnas > 4000000L) throw ErrorLectura("tabla demasiado grande");
+  if (filas * columnas > kCeldasMáximas) throw ErrorLectura("tabla demasiado grande");
+}
+
+// A count of records of `ítems` items each: not negative, and no more than the rest of the file
+// can hold.
+Entero LeerCuentaDe(LectorSecuencial& l, long ítems) {
+  const Entero n = LeerCuenta(l);
+  l.ComprobarCuenta(n, ítems);
+  return n;
 }
 
 void LeerXY(LectorSecuencial& l, TablaXY& t, Entero& n) {
-  n = LeerCuenta(l);
+  n = LeerCuentaDe(l, 2);
   t.Redimensionar(n);
   for (long i = 1; i <= n; ++i) {
     t.X[i] = l.LeerReal();
@@ -252,6 +264,9 @@ std::string LeerCabecera(LectorSecuencial& l, Proyecto& p) {
                          &info.IngResponsable, &info.Empresa})
     *s = l.LeerTexto();
   p.TipoDeAnálisis = Mayúsculas(Recortar(l.LeerTexto()));
+  if (p.TipoDeAnálisis != "T" && p.TipoDeAnálisis != "F")
+    throw ErrorLectura("el tipo de análisis es \"" + p.TipoDeAnálisis +
+                       "\"; un proyecto es de equilibrio límite (\"T\") o de elementos finitos (\"F\")");
   l.LeerBandera(p.Sísmico.CálculoSísmicoHecho);
   p.Sísmico.SismoCalculado = p.Sísmico.CálculoSísmicoHecho;
   return descripción;
@@ -261,8 +276,9 @@ void LeerResultadosDovelas(LectorSecuencial& l, Proyecto& p) {
   TablaDeDovelas& d = p.TablaDovelas;
   const bool roca = p.TipoDeMaterial == "R";
   const bool instantáneos = p.ParámetrosIniciales.UsaParámetrosInstantáneos;
-  p.NúmeroBordes = LeerCuenta(l);
+  p.NúmeroBordes = LeerCuentaDe(l, 1);
   const long n = p.NúmeroBordes > 0 ? p.NúmeroBordes - 1 : 0;
+  l.ComprobarCuenta(n, roca ? 14 : 11);
   for (Tabla<double>* t : {&d.Ancho, &d.XMedio, &d.YTalud, &d.YBase, &d.PresiónPoros, &d.FricciónBase,
                            &d.CohesiónBase, &d.PesoUnitarioMedio, &d.EsfuerzoNormalTotal,
                            &d.EsfuerzoNormalEfectivo, &d.EsfuerzoTangencial})
@@ -352,7 +368,7 @@ void LeerCuerpoT(LectorSecuencial& l, Proyecto& p) {
   pi.NúmeroDovelas = l.LeerReal();
   LeerXY(l, p.CoordenadasTalud, p.NúmeroPuntosTalud);
   LeerXY(l, p.CoordenadasFalla, p.NúmeroPuntosFalla);
-  p.NúmeroTramosFalla = LeerCuenta(l);
+  p.NúmeroTramosFalla = LeerCuentaDe(l, 3);
   p.TramoFalla.Redimensionar(p.NúmeroTramosFalla);
   for (long i = 1; i <= p.NúmeroTramosFalla; ++i) {
     p.TramoFalla.PuntoInicial[i] = l.LeerReal();
@@ -370,7 +386,7 @@ void LeerCuerpoT(LectorSecuencial& l, Proyecto& p) {
   LeerXY(l, p.CoordenadasFreático, p.NúmeroPuntosFreático);
 
   // Strata
-  p.NúmeroEstratos = LeerCuenta(l);
+  p.NúmeroEstratos = LeerCuentaDe(l, suelo ? 9 : (roca ? 8 : 1));
   const Entero mayor = LeerCuenta(l);
   p.NúmeroEstratosCaracterizados = l.LeerEntero();
   const long ne = p.NúmeroEstratos;
@@ -381,7 +397,7 @@ void LeerCuerpoT(LectorSecuencial& l, Proyecto& p) {
   TablaEstrato& es = p.Estrato;
   es.RedimensionarConservando(ne);
   for (long s = 1; s <= ne; ++s) {
-    const Entero puntos = LeerCuenta(l);
+    const Entero puntos = LeerCuentaDe(l, 2);
     if (puntos > mayor) throw ErrorLectura("un estrato tiene más puntos que el mayor declarado");
     p.PuntosEstrato[s] = puntos;
     if (suelo) {
@@ -410,13 +426,13 @@ void LeerCuerpoT(LectorSecuencial& l, Proyecto& p) {
   p.EstratosCaracterizados = true;
 
   // Loads
-  p.NúmeroCargasUniformes = LeerCuenta(l);
+  p.NúmeroCargasUniformes = LeerCuentaDe(l, 6);
   TablaCargaUniforme& cu = p.CargaUniforme;
   cu.Redimensionar(p.NúmeroCargasUniformes);
   for (long i = 1; i <= p.NúmeroCargasUniformes; ++i)
     for (Tabla<double>* t : {&cu.xo, &cu.yo, &cu.xf, &cu.yf, &cu.qx, &cu.qy}) (*t)[i] = l.LeerReal();
   p.CargasUniformesDadas = p.NúmeroCargasUniformes > 0;
-  p.NúmeroCargasPuntuales = LeerCuenta(l);
+  p.NúmeroCargasPuntuales = LeerCuentaDe(l, 4);
   TablaCargaPuntual& cp = p.CargaPuntual;
   cp.Redimensionar(p.NúmeroCargasPuntuales);
   for (long i = 1; i <= p.NúmeroCargasPuntuales; ++i)
@@ -445,7 +461,7 @@ void LeerCuerpoT(LectorSecuencial& l, Proyecto& p) {
     p.Roca.EnsayoSigma1.Redimensionar(ne, mayorEnsayo);
     p.Roca.EnsayoSigma3.Redimensionar(ne, mayorEnsayo);
     for (long s = 1; s <= ne; ++s) {
-      const Entero pares = LeerCuenta(l);
+      const Entero pares = LeerCuentaDe(l, 2);
       if (pares > mayorEnsayo) throw ErrorLectura("un estrato tiene más ensayos que el mayor declarado");
       p.Roca.PuntosEnsayo[s] = pares;
       for (long j = 1; j <= pares; ++j) {
@@ -457,6 +473,7 @@ void LeerCuerpoT(LectorSecuencial& l, Proyecto& p) {
 
   if (pi.MétodoDeCálculo == 4 && p.CálculoHecho) {
     const long n = p.NúmeroBordes - 1;
+    l.ComprobarCuenta(n, 1);
     p.TablaDovelas.AlturaEmpuje.Redimensionar(p.NúmeroBordes);
     for (long i = 1; i <= n; ++i) p.TablaDovelas.AlturaEmpuje[i] = l.LeerReal();
   }
@@ -486,12 +503,43 @@ void TerminarLectura(Proyecto& p, const std::string& descripción) {
 
 }  // namespace
 
+namespace {
+
+// The free texts of the project and how the information screen names them.
+std::vector<std::pair<const char*, const std::string*>> TextosLibres(const Proyecto& p) {
+  const InformaciónDelProyecto& info = p.InformaciónProyecto;
+  return {{"Descripción del proyecto", &p.Ventana.TextoProyecto},
+          {"Progresiva inicial", &info.ProgresivaInicial},
+          {"Progresiva final", &info.ProgresivaFinal},
+          {"Fecha", &info.FechaProyecto},
+          {"Ingeniero responsable", &info.IngResponsable},
+          {"Empresa", &info.Empresa}};
+}
+
+// A text the file cannot keep as typed is named before anything is written; the user decides.
+bool AceptaTextosCambiados(const Proyecto& p, Interfaz& ui) {
+  std::string campos;
+  for (const auto& [nombre, texto] : TextosLibres(p)) {
+    const std::string malos = CaracteresQueNoSeGuardan(*texto);
+    if (malos.empty()) continue;
+    campos += std::string(campos.empty() ? "" : "; ") + "«" + nombre + "»: " + malos;
+  }
+  if (campos.empty()) return true;
+  return ui.Pregunta("Algunos caracteres no se pueden guardar en el archivo del proyecto y se "
+                     "cambiarán (las comillas dobles por comillas simples, los demás por \"?\"). "
+                     "Campos y caracteres: " + campos + ". ¿Desea guardar de todos modos?",
+                     kTítuloGuardar);
+}
+
+}  // namespace
+
 bool GuardarProyecto(Proyecto& p, const std::string& archivo, Interfaz& ui) {
   GuardarPanelCoordenadas(p, p.Ventana.TipoPanel, p.Ventana.EstratoPanel);
   if (p.TipoDeMaterial.empty() && p.TipoDeAnálisis == "T") {
     ui.Mensaje(kSinMaterial);
     return false;
   }
+  if (!AceptaTextosCambiados(p, ui)) return false;
   EscritorSecuencial e;
   EscribirCabecera(e, p);
   if (p.TipoDeAnálisis == "T") {
@@ -512,25 +560,33 @@ bool GuardarProyecto(Proyecto& p, const std::string& archivo, Interfaz& ui) {
 }
 
 bool LeerProyecto(Proyecto& p, const std::string& archivo, Interfaz& ui) {
-  ReiniciarProyecto(p);
+  // The read goes into a copy: a file that cannot be read as a whole changes nothing.
+  Proyecto q = p;
+  ReiniciarProyecto(q);
+  std::optional<LectorSecuencial> l;
+  std::string motivo;
   try {
-    LectorSecuencial l = LectorSecuencial::DeArchivo(archivo);
-    const std::string descripción = LeerCabecera(l, p);
-    if (p.TipoDeAnálisis == "T") LeerCuerpoT(l, p);
-    if (p.TipoDeAnálisis == "F") LeerCuerpoF(l, p);
-    TerminarLectura(p, descripción);
+    l = LectorSecuencial::DeArchivo(archivo);
+    const std::string descripción = LeerCabecera(*l, q);
+    if (q.TipoDeAnálisis == "F") LeerCuerpoF(*l, q);
+    else LeerCuerpoT(*l, q);
+    if (!l->AlFinal())
+      throw ErrorLectura("el proyecto termina antes que el archivo: sobran datos");
+    TerminarLectura(q, descripción);
+    p = std::move(q);
     return true;
-  } catch (const ErrorLectura&) {
-    ui.Mensaje(kErrorLectura);
-    return false;
-  } catch (const FalloAritmético&) {
-    // A row out of range on a malformed file ends the read the same way.
-    ui.Mensaje(kErrorLectura);
-    return false;
+  } catch (const ErrorLectura& e) {
+    motivo = e.what();
+  } catch (const FalloAritmético& e) {
+    motivo = e.what();
   } catch (const std::bad_alloc&) {
-    ui.Mensaje(kErrorLectura);
-    return false;
+    motivo = "no hay memoria para las tablas que el archivo declara";
   }
+  std::string detalle = "Archivo: " + archivo + "\n" + motivo;
+  if (l) detalle += "\nLínea " + std::to_string(l->Línea()) + " del archivo.";
+  detalle += "\nEl proyecto abierto no se cambió.";
+  ui.MensajeDetallado(kErrorLectura, "", detalle);
+  return false;
 }
 
 std::string LimpiarSaltos(const std::string& texto) {

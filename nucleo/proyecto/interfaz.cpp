@@ -30,6 +30,12 @@ void Interfaz::Mensaje(const std::string& texto, const std::string& título) {
   HacerMensaje(texto, título);
 }
 
+void Interfaz::MensajeDetallado(const std::string& texto, const std::string& título,
+                                const std::string& detalle) {
+  FlagsGuardados g;
+  HacerMensajeDetallado(texto, título, detalle);
+}
+
 bool Interfaz::Pregunta(const std::string& texto, const std::string& título) {
   FlagsGuardados g;
   return HacerPregunta(texto, título);

@@ -23,6 +23,9 @@ class Interfaz {
 
   // Information box; título may be empty.
   void Mensaje(const std::string& texto, const std::string& título = "");
+  // The same box with a longer explanation the user can unfold (why a file could not be read and
+  // at which line). Where there is no room for it the box shows the text alone.
+  void MensajeDetallado(const std::string& texto, const std::string& título, const std::string& detalle);
   // Yes/No box: true for Yes.
   bool Pregunta(const std::string& texto, const std::string& título = "");
   // Status line of the main window.
@@ -54,6 +57,11 @@ class Interfaz {
 
  protected:
   virtual void HacerMensaje(const std::string& texto, const std::string& título) = 0;
+  virtual void HacerMensajeDetallado(const std::string& texto, const std::string& título,
+                                     const std::string& detalle) {
+    (void)detalle;
+    HacerMensaje(texto, título);
+  }
   virtual bool HacerPregunta(const std::string& texto, const std::string& título) = 0;
   virtual void HacerEstado(const std::string& texto) = 0;
   virtual void HacerAbrir(Pantalla& pantalla) = 0;

@@ -20,13 +20,30 @@ class ErrorLectura : public std::runtime_error {
 std::string DecodificarTexto(const std::string& bytes);
 // UTF-8 to Windows-1252; a character that has no place there becomes '?'.
 std::string CodificarWindows1252(const std::string& utf8);
+// The characters of a text that a project file cannot keep as they are: those Windows-1252 has no
+// place for, and the double quote that closes a text. Each once, in order; empty when none.
+std::string CaracteresQueNoSeGuardan(const std::string& utf8);
+
+// No table of a real project comes near this many cells: a count past it means a damaged file.
+inline constexpr long kCeldasMáximas = 4000000;
+
+// No project or side file comes near this size; a larger one is not read at all.
+inline constexpr unsigned long long kTamañoMáximoArchivo = 64ull * 1024 * 1024;
+
+// Writes `bytes` to `ruta` so that a failure never leaves a partial file: a new file in the same
+// folder, flushed to disk, then renamed over the old one. An existing file keeps its permissions,
+// a symbolic link keeps pointing at its target, which is the file written. Returns false (and
+// leaves the old file as it was) with the reason in `error`.
+bool EscribirArchivoCompleto(const std::string& ruta, const std::string& bytes, std::string* error = nullptr);
 
 class LectorSecuencial {
  public:
-  // Reads the whole file; ErrorLectura when it cannot be opened.
+  // Reads the whole file; ErrorLectura when it cannot be opened (naming a folder or a device as
+  // such) or is larger than any project.
   static LectorSecuencial DeArchivo(const std::string& ruta);
   explicit LectorSecuencial(std::string textoUtf8);
 
+  // A text between double quotes (an empty item reads as ""); anything else is ErrorLectura.
   std::string LeerTexto();
   double LeerReal();
   std::int16_t LeerEntero();
@@ -34,12 +51,22 @@ class LectorSecuencial {
   void LeerBandera(bool& valor);
   // A letter: "S" true, "N" false; any other text leaves `valor` as it was. Returns the letter.
   std::string LeerLetra(bool& valor);
+  // True when only blanks and line ends are left; Línea() then says where the rest begins.
   bool AlFinal();
+  // Line (from 1) of the item read last: where a failure of the read stands.
+  long Línea() const { return líneaÍtem_; }
+  // A count of `registros` records of `ítemsPorRegistro` items each, checked against what is left
+  // in the file before any table is dimensioned by it: ErrorLectura when the file cannot hold them.
+  void ComprobarCuenta(long registros, long ítemsPorRegistro) const;
+  // The most records of `ítemsPorRegistro` items each that the rest of the file could hold.
+  long Caben(long ítemsPorRegistro) const;
 
  private:
   std::string Ítem(bool& entreComillas);
   std::string t_;
   std::size_t i_ = 0;
+  long línea_ = 1;
+  long líneaÍtem_ = 1;
 };
 
 class EscritorSecuencial {

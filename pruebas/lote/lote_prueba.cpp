@@ -275,7 +275,8 @@ TEST_F(LoteFellenius, FallaNoPrevistaTerminaConUnoYNoSigue) {
   EXPECT_EQ(r.líneas[0], std::string("[pregunta]  | ") + kDesembalse + " -> N");
   EXPECT_EQ(r.líneas[1].rfind("[mensaje] Error en el cálculo | Se produjo una falla aritmética no prevista (", 0), 0u);
   EXPECT_EQ(r.líneas[2], "--- Resumen ---");  // the second command did not run
-  EXPECT_EQ(r.líneas[3], "FactorDeSeguridad: (sin cálculo)");
+  EXPECT_EQ(r.líneas[3].rfind("FALLA: el comando MétodoFellenius terminó en falla", 0), 0u);  // before any figure
+  EXPECT_EQ(r.líneas[4], "FactorDeSeguridad: (sin cálculo)");
   EXPECT_NE(r.errores.find("MétodoFellenius terminó en falla; los comandos siguientes no se ejecutaron."), std::string::npos);
   EXPECT_FALSE(std::filesystem::exists(copia));
 }

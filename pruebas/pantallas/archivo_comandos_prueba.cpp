@@ -245,7 +245,7 @@ TEST_F(Archivo, AbrirPreguntaSoloConDatosYListaSinGuardar) {
   EXPECT_EQ(p.NúmeroPuntosTalud, 2);  // cancelled: nothing read
 }
 
-TEST_F(Archivo, AbrirUnArchivoIlegibleLoMuestraComoAbierto) {
+TEST_F(Archivo, AbrirUnArchivoIlegibleNoCambiaNada) {
   const std::string ruta = pruebas::CarpetaTemporal() + "/no-existe.cod";
   ui.Responder("S");
   ui.ArchivosElegidos({ruta});
@@ -258,11 +258,9 @@ TEST_F(Archivo, AbrirUnArchivoIlegibleLoMuestraComoAbierto) {
             "archivo? -> S");
   EXPECT_EQ(l[1], "[archivo] Abrir | " + ruta);
   EXPECT_EQ(ui.Transcripción()[2].texto, "Error leyendo archivo");
-  EXPECT_EQ(p.Ventana.NombreArchivo, ruta);
-  EXPECT_EQ(p.Ventana.Título, "no-existe.cod - Lomaterra");
-  EXPECT_FALSE(p.DatosGuardados);
-  EXPECT_EQ(p.Ventana.TipoPanel, 1);
-  EXPECT_EQ(p.NúmeroPuntosTalud, 0);  // the read began with a reset
+  EXPECT_EQ(p.Ventana.Título, "[Nuevo proyecto] - Lomaterra");
+  EXPECT_EQ(p.Ventana.TipoPanel, 3);
+  EXPECT_EQ(p.NúmeroPuntosTalud, 2);  // the project open stays open
 }
 
 TEST_F(Archivo, SalirPreguntaSoloConDatosSinGuardar) {
