@@ -191,6 +191,8 @@ std::string SalidaSobreElProyecto(const Opciones& o) {
   if (o.json) salidas.push_back({"--json", *o.json});
   if (o.guardar) salidas.push_back({"--guardar", *o.guardar});
   if (o.pdf) salidas.push_back({"--pdf", *o.pdf});
+  if (o.mallaJson) salidas.push_back({"--malla-json", *o.mallaJson});
+  if (o.rigidezJson) salidas.push_back({"--rigidez-json", *o.rigidezJson});
   for (const auto& [nombre, archivo] : o.figuras) salidas.push_back({"--figura", archivo});
   for (const auto& [opción, ruta] : salidas) {
     std::error_code ec;
@@ -294,9 +296,12 @@ int Correr(const std::vector<std::string>& argumentos) {
   std::cout.flush();
 
   for (const auto& [ruta, rigidez] : {std::pair{o.mallaJson, false}, std::pair{o.rigidezJson, true}})
-    if (ruta && !EscribirTexto(*ruta, MallaComoJson(p, ui, rigidez))) {
-      std::cerr << "lomaterra-lote: no se pudo escribir \"" << *ruta << "\".\n";
-      estado = kFallo;
+    if (ruta) {
+      std::string motivo;
+      if (!EscribirArchivoCompleto(*ruta, MallaComoJson(p, ui, rigidez), &motivo)) {
+        std::cerr << "lomaterra-lote: no se pudo escribir \"" << *ruta << "\" (" << motivo << ").\n";
+        estado = kFallo;
+      }
     }
   if (o.json) {
     InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda};
