@@ -141,6 +141,27 @@ TEST_F(SuperficieRecta, SinCrucesHayDosQuiebresYDovelasIguales) {
   EXPECT_TRUE(p.EtapaQuiebres && p.EtapaDovelas && p.EtapaGeometría && p.EtapaEstratos);
 }
 
+TEST_F(SuperficieRecta, EnRocaLaBaseTomaMSYLaCompresiónDelMacizoYElExponentePorElGSI) {
+  // The term a is 0 from GSI 25 up and 0.65 - GSI/200 below: 0.55 at 20, 0.53 at 24.
+  AñadirEstrato(p, {{30, -5}, {-10, -5}}, {.cohesión = 2, .fricción = 30, .tipo = 1});
+  p.TipoDeMaterial = "R";
+  auto& E = p.Estrato;
+  E.m_intacta[1] = 12, E.m_macizo[1] = 1.7, E.s_macizo[1] = 0.004, E.C_Simple[1] = 500;
+  Etapas();
+  for (const auto& [gsi, a] : {std::pair{20.0, 0.55}, {24.0, 0.53}, {25.0, 0.0}, {60.0, 0.0}}) {
+    E.Parámetro_GSI[1] = gsi;
+    EstratosEnDovelas(p);
+    const auto& d = p.TablaDovelas;
+    for (long i = 1; i <= 4; ++i) {
+      EXPECT_EQ(d.m_Base[i], 1.7) << gsi;
+      EXPECT_EQ(d.s_Base[i], 0.004) << gsi;
+      EXPECT_EQ(d.C_SimpleBase[i], 500) << gsi;
+      EXPECT_NEAR(d.a_Base[i], a, 1e-12) << gsi;
+      EXPECT_EQ(d.TipoEstratoBase[i], 0) << gsi;  // a soil column, left empty in rock
+    }
+  }
+}
+
 TEST_F(SuperficieRecta, TresEstratosCercaDeUnPuntoDanMásDovelasQueLasPedidas) {
   // Level lines at 5, 4.8 and 4.6 cut y = x/2 at 10, 9.6 and 9.2; a fourth stratum lies below.
   DatosEstrato e;
