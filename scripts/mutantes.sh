@@ -6,7 +6,7 @@
 # por mutante).
 #
 #   bash scripts/mutantes.sh              todos los mutantes de la lista
-#   bash scripts/mutantes.sh poros bishop solo las líneas que contienen alguna de esas palabras
+#   bash scripts/mutantes.sh poros bishop solo las lineas que contienen alguna de esas palabras
 #
 # Formato de la lista: archivo @@ texto exacto @@ reemplazo [@@ nota]. El texto debe aparecer una
 # sola vez en el archivo; si ya no aparece el mutante se informa como "no aplica" y no cuenta.
@@ -67,12 +67,12 @@ correr() {
   (cd "$obra/pruebas" && timeout "$tiempo" "$e" --gtest_fail_fast --gtest_brief=1 >/dev/null 2>&1)
 }
 
-# Primero el ejecutable del área del archivo mutado (el más rápido en atraparlo); solo si
+# Primero el ejecutable del area del archivo mutado (el más rápido en atraparlo); solo si
 # sobrevive se compilan y corren los demás. Devuelve 0 si sobrevive, 1 si lo atrapan, 2 si no compila.
 probar() {
-  local área=$1 t
-  local propio="prueba_$área"
-  [ "$área" = "pantallas" ] || [ "$área" = "proyecto" ] || [ "$área" = "salida" ] || [ "$área" = "equilibrio" ] || propio=""
+  local area=$1 t
+  local propio="prueba_$area"
+  [ "$area" = "pantallas" ] || [ "$area" = "proyecto" ] || [ "$area" = "salida" ] || [ "$area" = "equilibrio" ] || propio=""
   if [ -n "$propio" ]; then
     compilar "$propio" || return 2
     correr "$propio" || return 1
@@ -95,16 +95,16 @@ total=0 atrapados=0 noaplica=0 nocompila=0 equivalentes=0
 sobrevivientes=()
 : >"$registro"
 n=0
-while IFS= read -r línea || [ -n "$línea" ]; do
-  case "$línea" in ''|'#'*) continue ;; esac
+while IFS= read -r linea || [ -n "$linea" ]; do
+  case "$linea" in ''|'#'*) continue ;; esac
   n=$((n + 1))
   if [ ${#filtro[@]} -gt 0 ]; then
     coincide=0
-    for f in "${filtro[@]}"; do [[ "$línea" == *"$f"* ]] && coincide=1; done
+    for f in "${filtro[@]}"; do [[ "$linea" == *"$f"* ]] && coincide=1; done
     [ $coincide = 1 ] || continue
   fi
-  archivo=${línea%% @@ *}
-  nota=$(printf '%s' "$línea" | awk -F ' @@ ' '{print $4}')
+  archivo=${linea%% @@ *}
+  nota=$(printf '%s' "$linea" | awk -F ' @@ ' '{print $4}')
   if [[ "$nota" == equivalente:* ]]; then
     echo "M$n equivalente, no cuenta  $archivo  [$nota]" | tee -a "$registro"
     equivalentes=$((equivalentes + 1))
@@ -118,7 +118,7 @@ while IFS= read -r línea || [ -n "$línea" ]; do
   cp "$archivo" "$original"
   mutado=$archivo
   # El reemplazo, con Python para tratar el texto como texto y no como expresión regular.
-  if ! LINEA="$línea" python3 - "$archivo" <<'PY'
+  if ! LINEA="$linea" python3 - "$archivo" <<'PY'
 import os, sys
 partes = os.environ["LINEA"].split(" @@ ")
 ruta, buscar, poner = sys.argv[1], partes[1], partes[2]
@@ -136,7 +136,7 @@ PY
   probar "$(printf '%s' "$archivo" | awk -F/ '{print $2}')"
   case $? in
     0) estado="SOBREVIVE"; total=$((total + 1))
-       sobrevivientes+=("M$n $archivo: $(printf '%s' "$línea" | awk -F ' @@ ' '{print $2 "  ->  " $3}')${nota:+  [$nota]}") ;;
+       sobrevivientes+=("M$n $archivo: $(printf '%s' "$linea" | awk -F ' @@ ' '{print $2 "  ->  " $3}')${nota:+  [$nota]}") ;;
     1) estado="atrapado"; total=$((total + 1)); atrapados=$((atrapados + 1)) ;;
     *) estado="no compila"; nocompila=$((nocompila + 1)) ;;
   esac

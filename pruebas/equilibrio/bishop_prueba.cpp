@@ -261,9 +261,15 @@ struct Búsqueda {
   std::vector<double> radios;  // radius of every rerun of the stages
   std::function<double(double)> fs;
 
-  explicit Búsqueda(std::map<double, double> factores)
-      : Búsqueda(std::function<double(double)>([factores](double r) { return factores.at(r); })) {}
-  explicit Búsqueda(std::function<double(double)> factores) : fs(std::move(factores)) {
+  // `exacta`: the centre put at x = 0 and the middle at R/8 (sin a = 1/8 for every radius), so that
+  // the factor at 2R is bit for bit the one at R when both are asked for.
+  bool exacta = false;
+
+  explicit Búsqueda(std::map<double, double> factores, bool exacta = false)
+      : Búsqueda(std::function<double(double)>([factores](double r) { return factores.at(r); }),
+                 exacta) {}
+  explicit Búsqueda(std::function<double(double)> factores, bool exacta_ = false)
+      : fs(std::move(factores)), exacta(exacta_) {
     TresDovelas(p);
     auto& pi = p.ParámetrosIniciales;
     pi.VaríaRadio = true;
@@ -281,7 +287,9 @@ struct Búsqueda {
   }
   void Dovela(Proyecto& q) {
     auto& d = q.TablaDovelas;
-    const double R = q.ParámetrosIniciales.Radio, x = q.ParámetrosIniciales.CentroX + 0.05 * R;
+    const double s = exacta ? 0.125 : 0.05;
+    if (exacta) q.ParámetrosIniciales.CentroX = 0;
+    const double R = q.ParámetrosIniciales.Radio, x = q.ParámetrosIniciales.CentroX + s * R;
     q.NúmeroBordes = 2;
     d.BordeX.Redimensionar(2);
     d.BordeX[1] = x + 0.5;
@@ -293,7 +301,7 @@ struct Búsqueda {
     d.Ancho[1] = 1;
     d.YTalud[1] = 1;
     d.PesoUnitarioMedio[1] = 10;
-    d.CohesiónBase[1] = fs(R) * 10 * R * 0.05 * std::sqrt(1 - 0.05 * 0.05);
+    d.CohesiónBase[1] = fs(R) * 10 * R * s * std::sqrt(1 - s * s);
   }
   void Correr() {
     InterfazGuionada ui("NN");
@@ -357,6 +365,15 @@ TEST(BishopBúsquedaDelRadio, CasosDeLaBúsqueda) {
     EXPECT_EQ(b.p.ParámetrosIniciales.Radio, c.radio) << c.nombre;
     EXPECT_NEAR(b.FS(), c.fs.at(c.radio), 1e-9) << c.nombre;
   }
+}
+
+TEST(BishopBúsquedaDelRadio, UnEmpateEntreLosDosCaminosSeQuedaConElDeBajada) {
+  // Best going up 12 m, best going down 6 m (5 m has no arc), both at 1.4: the way down wins.
+  Búsqueda b({{8, 1.5}, {9, 1.48}, {10, 1.46}, {11, 1.44}, {12, 1.4}, {13, 1.45}, {7, 1.43}, {6, 1.4}},
+             true);
+  b.Correr();
+  EXPECT_EQ(b.radios, (std::vector<double>{9, 10, 11, 12, 13, 7, 6, 6}));
+  EXPECT_EQ(b.p.ParámetrosIniciales.Radio, 6);
 }
 
 TEST(BishopBúsquedaDelRadio, LaTablaDe100FilasDetieneLaSubida) {

@@ -67,6 +67,12 @@ TEST(CentroDelArco, ElRadioCreceDeMedioEnMedioHastaQueElCentroNoQuedaBajoElPrime
   EXPECT_NEAR(p.Trabajo.RadioActual, 10.1, 1e-12);
   EXPECT_NEAR(p.ParámetrosIniciales.CentroX, 5 - h, 1e-9);
   EXPECT_NEAR(p.ParámetrosIniciales.CentroY, 5 + h, 1e-9);
+  // From 8 by halves the radius reaches 10, whose centre (0, 10) is level with the first point:
+  // not below it, so the growth stops there.
+  p.ParámetrosIniciales.Radio = p.Trabajo.RadioActual = 8;
+  CentroDelArco(p, ui);
+  EXPECT_EQ(p.ParámetrosIniciales.Radio, 10);
+  EXPECT_NEAR(p.ParámetrosIniciales.CentroY, 10, 1e-12);
 }
 
 TEST(CentroDelArco, ConReferenciaDeMomentosPositivaElCentroEsLaReferencia) {
@@ -139,6 +145,19 @@ TEST_F(SuperficieRecta, SinCrucesHayDosQuiebresYDovelasIguales) {
   EXPECT_EQ(p.TablaDovelas.BordeYFalla[5], 0);
   EXPECT_NEAR(p.TablaDovelas.BordeYFalla[3], 5, 1e-12);
   EXPECT_TRUE(p.EtapaQuiebres && p.EtapaDovelas && p.EtapaGeometría && p.EtapaEstratos);
+}
+
+TEST_F(SuperficieRecta, FueraDeSuLíneaUnEstratoTomaLaDelEstratoDeArriba) {
+  // Stratum 1 at 11 over the whole section, stratum 2 at -5 only for x from 10 to 30: the slices
+  // at 7.5 and 2.5 see stratum 2 at 11 (no thickness), not at the surface 12.
+  AñadirEstrato(p, {{30, 11}, {-10, 11}}, {.cohesión = 2, .fricción = 30});
+  AñadirEstrato(p, {{30, -5}, {10, -5}}, {.cohesión = 3, .fricción = 25});
+  Etapas();
+  const auto& d = p.TablaDovelas;
+  EXPECT_EQ(d.YEstrato(2, 1), -5);
+  EXPECT_EQ(d.YEstrato(2, 2), -5);
+  EXPECT_EQ(d.YEstrato(2, 3), 11);
+  EXPECT_EQ(d.YEstrato(2, 4), 11);
 }
 
 TEST_F(SuperficieRecta, EnRocaLaBaseTomaMSYLaCompresiónDelMacizoYElExponentePorElGSI) {

@@ -297,7 +297,12 @@ TEST_F(Variacional, ElEsfuerzoDeLaCrestaEsElValorDeBorde) {
   Preparar(12, 29.7, 53.2, 1.2, -0.37);
   InterfazEspía ui("NN");
   std::vector<double> cresta;
-  ui.alAbrir = [&](Pantalla&) { cresta.push_back(p.EsfuerzoIteración(1, p.NúmeroIteraciones)); };
+  // Each step starts from the table; the crest entry scribbled over while a screen is open does
+  // not travel to the next step.
+  ui.alAbrir = [&](Pantalla&) {
+    cresta.push_back(p.EsfuerzoIteración(1, p.NúmeroIteraciones));
+    p.EsfuerzoIteración(1, p.NúmeroIteraciones) = 99;
+  };
   ProcesoIterativoEnSuelos(p, ui);
   ASSERT_TRUE(p.CálculoHecho);
   ASSERT_GE(cresta.size(), 2u);

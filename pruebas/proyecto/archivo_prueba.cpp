@@ -538,7 +538,19 @@ TEST_F(ArchivoProyecto, ArchivoTruncadoGuardaLoLeído) {
 
 TEST_F(ArchivoProyecto, ArchivosQueNoSePuedenLeer) {
   struct Caso { const char* nombre; std::string contenido; };
+  // A whole file but for one count, -1, with no rows after it: that count alone spoils the file.
+  Proyecto p = ProyectoSuelo(false);
+  p.ParámetrosIniciales.MétodoDeCálculo = 1;
+  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  auto líneas = Líneas(pruebas::LeerArchivo(ruta));
+  const std::size_t freático = 8 + 3 + 10 + 5 + 3 + 2;  // its count, then its three points
+  ASSERT_EQ(líneas[freático], "3");
+  líneas[freático] = "-1";
+  líneas.erase(líneas.begin() + freático + 1, líneas.begin() + freático + 4);
+  std::string cuentaMenosUno;
+  for (const auto& l : líneas) cuentaMenosUno += l + "\r\n";
   const Caso casos[] = {
+      {"cuenta -1 en un archivo entero", cuentaMenosUno},
       {"vacío", ""},
       {"número mal formado", "\"d\",\"\",\"\",\"\",\"\",\"\",\"T\",2\r\n\"S\"\r\n\"N\"\r\n3\r\n1,5\r\n"},
       {"cuenta negativa", "\"d\",\"\",\"\",\"\",\"\",\"\",\"T\",2,\"S\",\"N\",3,0,0,1,0,10,0,0,0,0,10,-2\r\n"},
