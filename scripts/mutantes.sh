@@ -14,30 +14,39 @@
 set -u
 raiz=$(cd "$(dirname "$0")/.." && pwd)
 lista="$raiz/scripts/mutantes.txt"
-copia="$raiz/build/mutantes/fuente"
+revision=${LOMATERRA_MUTANTES_REVISION:-}
+copia="$raiz/build/mutantes/${revision:-fuente}"
 obra="$copia/build/nucleo"
 tiempo=${LOMATERRA_MUTANTES_TIEMPO:-120}
-registro="$raiz/build/mutantes/registro.txt"
+registro="$raiz/build/mutantes/registro${revision:+-$revision}.txt"
 
 # La copia: solo se reescriben los archivos que difieren, con la hora actual, para que ninja
-# recompile exactamente esos.
+# recompile exactamente esos. Con LOMATERRA_MUTANTES_REVISION=REV la copia es la de esa revisión
+# (en su propia carpeta), para comparar la fuerza de las pruebas de antes y de ahora.
 mkdir -p "$copia"
-(cd "$raiz" && git ls-files -co --exclude-standard) | python3 -c '
-import os, shutil, sys
-raíz, copia = sys.argv[1], sys.argv[2]
-archivos = {l.rstrip("\n") for l in sys.stdin if l.strip()}
+python3 - "$raiz" "$copia" "$revision" <<'PY'
+import os, subprocess, sys
+raíz, copia, rev = sys.argv[1], sys.argv[2], sys.argv[3]
+git = lambda *a: subprocess.run(["git", "-C", raíz, *a], check=True, capture_output=True).stdout
+if rev:
+    archivos = set(git("ls-tree", "-r", "--name-only", rev).decode().split("\n")) - {""}
+    contenido = lambda r: git("show", f"{rev}:{r}")
+else:
+    archivos = set(git("ls-files", "-co", "--exclude-standard").decode().split("\n")) - {""}
+    archivos = {r for r in archivos if os.path.isfile(os.path.join(raíz, r))}
+    contenido = lambda r: open(os.path.join(raíz, r), "rb").read()
 for r in archivos:
-    o, d = os.path.join(raíz, r), os.path.join(copia, r)
-    if not os.path.isfile(o): continue
-    if os.path.isfile(d) and open(o, "rb").read() == open(d, "rb").read(): continue
+    d = os.path.join(copia, r)
+    datos = contenido(r)
+    if os.path.isfile(d) and open(d, "rb").read() == datos: continue
     os.makedirs(os.path.dirname(d), exist_ok=True)
-    shutil.copyfile(o, d)
+    open(d, "wb").write(datos)
 for carpeta, subs, nombres in os.walk(copia):
     if os.path.relpath(carpeta, copia) == ".": subs[:] = [s for s in subs if s != "build"]
     for n in nombres:
         r = os.path.relpath(os.path.join(carpeta, n), copia)
         if r not in archivos: os.remove(os.path.join(copia, r))
-' "$raiz" "$copia"
+PY
 cd "$copia" || exit 1
 mutado=""
 original=$(mktemp)
