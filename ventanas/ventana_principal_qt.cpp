@@ -22,6 +22,7 @@
 
 #include "proyecto/compat.h"
 #include "proyecto/proyecto.h"
+#include "salida/factores.h"
 #include "vista_seccion.h"
 
 namespace lomaterra {
@@ -89,6 +90,11 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
   líneaEstado_->setTextFormat(Qt::PlainText);
   statusBar()->addWidget(líneaEstado_, 1);
   ui_.AlEstado([this](const QString& t) { líneaEstado_->setText(t); });
+  ui_.AlNombreActual([this] { return Q(proyecto_.Ventana.NombreArchivo); });
+  etiquetaFactores_ = new QLabel(this);
+  etiquetaFactores_->setObjectName("EtiquetaFactores");
+  etiquetaFactores_->setTextFormat(Qt::PlainText);
+  statusBar()->addPermanentWidget(etiquetaFactores_);
 
   connect(textoProyecto_, &QPlainTextEdit::textChanged, this, [this] {
     if (refrescando_) return;
@@ -176,9 +182,9 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
   formulario->addRow(QStringLiteral("Y (m):"), textoY_);
   vertical->addLayout(formulario);
   connect(textoX_, &QLineEdit::textEdited, this,
-          [this](const QString& t) { proyecto_.Ventana.TextoX = S(t); });
+          [this](const QString& t) { proyecto_.Ventana.TextoX = TextoDeEntrada(t); });
   connect(textoY_, &QLineEdit::textEdited, this,
-          [this](const QString& t) { proyecto_.Ventana.TextoY = S(t); });
+          [this](const QString& t) { proyecto_.Ventana.TextoY = TextoDeEntrada(t); });
 
   auto* botones = new QHBoxLayout;
   QPushButton* agregar = Botón("BotónAgregar", QStringLiteral("Agre&gar"), panel);
@@ -208,8 +214,8 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
 
 void VentanaPrincipalQt::Sincronizar() {
   EstadoVentana& v = proyecto_.Ventana;
-  v.TextoX = S(textoX_->text());
-  v.TextoY = S(textoY_->text());
+  v.TextoX = TextoDeEntrada(textoX_->text());
+  v.TextoY = TextoDeEntrada(textoY_->text());
   const auto filas = listaCoordenadas_->selectionModel()->selectedRows();
   v.FilaSeleccionada = filas.isEmpty() ? 0 : filas.front().row() + 1;
 }
@@ -299,7 +305,11 @@ void VentanaPrincipalQt::Refrescar() {
     últimoEstado_ = v.TextoEstado;
     líneaEstado_->setText(Q(v.TextoEstado));
   }
+  etiquetaFactores_->setText(Q(LíneaDeFactores(proyecto_)));
   dibujo_->Actualizar();
+  if (!dibujo_->Aviso().empty() && dibujo_->Aviso() != últimoAviso_)
+    líneaEstado_->setText(Q(dibujo_->Aviso()));
+  últimoAviso_ = dibujo_->Aviso();
   refrescando_ = false;
 }
 

@@ -68,6 +68,7 @@ class VentanaPrincipalQt : public QMainWindow {
   bool refrescando_ = false;
   bool cerrando_ = false;
   std::string últimoEstado_;
+  std::string últimoAviso_;  // the drawing's last word on the arc, shown once
 
   QPlainTextEdit* textoProyecto_ = nullptr;
   QLabel* etiquetaCoordenadas_ = nullptr;
@@ -78,6 +79,7 @@ class VentanaPrincipalQt : public QMainWindow {
   std::vector<QWidget*>
       entradaPanel_;  // boxes and buttons, open once the project information is given
   QLabel* líneaEstado_ = nullptr;
+  QLabel* etiquetaFactores_ = nullptr;  // the factor of the last calculation and its references
   VistaSección* dibujo_ = nullptr;
 };
 
