@@ -98,7 +98,7 @@ const std::vector<Puerta>& TablaDePuertas() {
          p.ParámetrosInstantáneosCalculados = true;
        },
        "NN", {Preg(kDesembalse, false), Preg(kContinuarInstantáneos, false)}},
-      {"sin dovelas", B | J, [](Proyecto& p) { p.NúmeroBordes = 1; }, "NN",
+      {"sin dovelas", F | B | J, [](Proyecto& p) { p.NúmeroBordes = 1; }, "NN",
        {Preg(kDesembalse, false), Preg(kPrimeraVez, false),
         Msj("Sin dovelas:",
             "No hay dovelas para calcular. Revise la superficie de falla y el número de dovelas.")}},
