@@ -43,11 +43,16 @@ inline Corrida Lote(const std::vector<std::string>& argumentos) {
   return c;
 }
 
-// One command on a sample project with the JSON summary, which must read as JSON.
-inline ValorJson LoteJson(const std::string& ejemplo, const std::string& comando) {
+// Commands and options (split at the blanks) on a sample project with the JSON summary, which
+// must read as JSON.
+inline ValorJson LoteJson(const std::string& ejemplo, const std::string& órdenes) {
   const std::string json = CarpetaTemporal() + "/salida.json";
-  const Corrida c = Lote({RutaEjemplo(ejemplo), comando, "--json", json});
-  EXPECT_EQ(c.estado, 0) << ejemplo << " " << comando;
+  std::vector<std::string> argumentos = {RutaEjemplo(ejemplo)};
+  std::istringstream palabras(órdenes);
+  for (std::string w; palabras >> w;) argumentos.push_back(w);
+  argumentos.insert(argumentos.end(), {"--json", json});
+  const Corrida c = Lote(argumentos);
+  EXPECT_EQ(c.estado, 0) << ejemplo << " " << órdenes;
   ValorJson v;
   std::string error;
   EXPECT_TRUE(LeerJson(LeerArchivo(json), v, error)) << error;
