@@ -222,6 +222,11 @@ SumasEquilibrio SumasDeEquilibrio(const DatosVariacionales& dv, const FilaVariac
   return s;
 }
 
+bool SumasEnTolerancia(const SumasEquilibrio& s) {
+  return !(std::fabs(s.horizontal) > 0.001 || std::fabs(s.vertical) > 0.001 ||
+           std::fabs(s.momento) > 0.009);
+}
+
 void SistemaNewton(const DatosVariacionales& dv, const FilaVariacional& fila, SistemaBordeado& J,
                    std::vector<double>& R) {
   const long n = dv.n;
@@ -559,8 +564,7 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
       cr.LiberarTablas();
       return;
     }
-    if (!(std::fabs(s.horizontal) > 0.001 || std::fabs(s.vertical) > 0.001 ||
-          std::fabs(s.momento) > 0.009)) {
+    if (SumasEnTolerancia(s)) {
       cr.GuardarResultados();
       ui.Mensaje(kTextoFinLeshchinsky);
       return;

@@ -81,6 +81,8 @@ struct SumasEquilibrio {
   double horizontal = 0, vertical = 0, momento = 0;
 };
 SumasEquilibrio SumasDeEquilibrio(const DatosVariacionales& dv, const FilaVariacional& fila);
+// The end test of the iteration: horizontal and vertical sums within 0.001, moments within 0.009.
+bool SumasEnTolerancia(const SumasEquilibrio& s);
 
 // The Newton system: J (n + 3) and the residuals R, with the unknowns µ1, µ2, F, σ[2..n+1]; in
 // the shape of its band (tridiagonal in the stresses, bordered by µ1, µ2, F and the three sums) and,

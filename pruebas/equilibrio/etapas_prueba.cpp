@@ -67,6 +67,12 @@ TEST(CentroDelArco, ElRadioCreceDeMedioEnMedioHastaQueElCentroNoQuedaBajoElPrime
   EXPECT_NEAR(p.Trabajo.RadioActual, 10.1, 1e-12);
   EXPECT_NEAR(p.ParámetrosIniciales.CentroX, 5 - h, 1e-9);
   EXPECT_NEAR(p.ParámetrosIniciales.CentroY, 5 + h, 1e-9);
+  // From 8 by halves the radius reaches 10, whose centre (0, 10) is level with the first point:
+  // not below it, so the growth stops there.
+  p.ParámetrosIniciales.Radio = p.Trabajo.RadioActual = 8;
+  CentroDelArco(p, ui);
+  EXPECT_EQ(p.ParámetrosIniciales.Radio, 10);
+  EXPECT_NEAR(p.ParámetrosIniciales.CentroY, 10, 1e-12);
 }
 
 TEST(CentroDelArco, ConReferenciaDeMomentosPositivaElCentroEsLaReferencia) {
@@ -139,6 +145,40 @@ TEST_F(SuperficieRecta, SinCrucesHayDosQuiebresYDovelasIguales) {
   EXPECT_EQ(p.TablaDovelas.BordeYFalla[5], 0);
   EXPECT_NEAR(p.TablaDovelas.BordeYFalla[3], 5, 1e-12);
   EXPECT_TRUE(p.EtapaQuiebres && p.EtapaDovelas && p.EtapaGeometría && p.EtapaEstratos);
+}
+
+TEST_F(SuperficieRecta, FueraDeSuLíneaUnEstratoTomaLaDelEstratoDeArriba) {
+  // Stratum 1 at 11 over the whole section, stratum 2 at -5 only for x from 10 to 30: the slices
+  // at 7.5 and 2.5 see stratum 2 at 11 (no thickness), not at the surface 12.
+  AñadirEstrato(p, {{30, 11}, {-10, 11}}, {.cohesión = 2, .fricción = 30});
+  AñadirEstrato(p, {{30, -5}, {10, -5}}, {.cohesión = 3, .fricción = 25});
+  Etapas();
+  const auto& d = p.TablaDovelas;
+  EXPECT_EQ(d.YEstrato(2, 1), -5);
+  EXPECT_EQ(d.YEstrato(2, 2), -5);
+  EXPECT_EQ(d.YEstrato(2, 3), 11);
+  EXPECT_EQ(d.YEstrato(2, 4), 11);
+}
+
+TEST_F(SuperficieRecta, EnRocaLaBaseTomaMSYLaCompresiónDelMacizoYElExponentePorElGSI) {
+  // The term a is 0 from GSI 25 up and 0.65 - GSI/200 below: 0.55 at 20, 0.53 at 24.
+  AñadirEstrato(p, {{30, -5}, {-10, -5}}, {.cohesión = 2, .fricción = 30, .tipo = 1});
+  p.TipoDeMaterial = "R";
+  auto& E = p.Estrato;
+  E.m_intacta[1] = 12, E.m_macizo[1] = 1.7, E.s_macizo[1] = 0.004, E.C_Simple[1] = 500;
+  Etapas();
+  for (const auto& [gsi, a] : {std::pair{20.0, 0.55}, {24.0, 0.53}, {25.0, 0.0}, {60.0, 0.0}}) {
+    E.Parámetro_GSI[1] = gsi;
+    EstratosEnDovelas(p);
+    const auto& d = p.TablaDovelas;
+    for (long i = 1; i <= 4; ++i) {
+      EXPECT_EQ(d.m_Base[i], 1.7) << gsi;
+      EXPECT_EQ(d.s_Base[i], 0.004) << gsi;
+      EXPECT_EQ(d.C_SimpleBase[i], 500) << gsi;
+      EXPECT_NEAR(d.a_Base[i], a, 1e-12) << gsi;
+      EXPECT_EQ(d.TipoEstratoBase[i], 0) << gsi;  // a soil column, left empty in rock
+    }
+  }
 }
 
 TEST_F(SuperficieRecta, TresEstratosCercaDeUnPuntoDanMásDovelasQueLasPedidas) {

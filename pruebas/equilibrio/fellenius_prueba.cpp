@@ -1,4 +1,4 @@
-// The Fellenius command: its gates word for word, a three-slice case worked by hand, the circular
+// The Fellenius command: a three-slice case worked by hand, the circular
 // formula against its reduced form, and a fault that ends the command with nothing stored.
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 #include "equilibrio/dovelas_apoyo.h"
 #include "equilibrio/fellenius.h"
 #include "proyecto/comandos.h"
+#include "equilibrio/textos_apoyo.h"
 #include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra {
@@ -15,70 +16,7 @@ namespace {
 
 using namespace pruebas;
 
-const std::string kDesembalse = "Está analizando desembalse rápido en presas de tierra?";
-const std::string kPrimeraVez =
-    "¿Es primera vez que está haciendo el cálculo o modificó las características geométricas o "
-    "geomecánicas del problema o niveles freáticos?";
-const std::string kFinal =
-    "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Fellenius para suelos.";
-
-// ---------------------------------------------------------------- gates
-
-struct CasoPuerta {
-  const char* nombre;
-  void (*preparar)(Proyecto&);
-  std::string respuestas;
-  std::vector<Apunte> esperado;
-};
-
-class PuertasFellenius : public ::testing::TestWithParam<CasoPuerta> {};
-
-TEST_P(PuertasFellenius, MensajesEnSuOrdenYSinCálculo) {
-  const CasoPuerta& c = GetParam();
-  Proyecto p = ProyectoDeSuelo(4);
-  p.NúmeroIteraciones = 7;
-  c.preparar(p);
-  InterfazGuionada ui(c.respuestas);
-  EXPECT_EQ(EjecutarComando(MétodoFellenius, p, ui), FinDeComando::Normal);
-  EXPECT_EQ(ui.Transcripción(), c.esperado);
-  EXPECT_EQ(p.NúmeroIteraciones, 7);
-  EXPECT_FALSE(p.EtapaIntersecciones);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Fellenius, PuertasFellenius,
-    ::testing::Values(
-        CasoPuerta{"SinTipo", [](Proyecto& p) { p.TipoDeAnálisis = ""; }, "",
-                   {{"mensaje", "", "Seleccione en la pantalla principal la opción <T> ó <F>", ""}}},
-        CasoPuerta{"ElementosFinitos", [](Proyecto& p) { p.TipoDeAnálisis = "F"; }, "",
-                   {{"mensaje", "", "Ud. está trabajando con elementos finitos", ""}}},
-        CasoPuerta{"SinParametros", [](Proyecto& p) { p.ParámetrosInicialesDados = false; }, "",
-                   {{"mensaje", "Parámetros iniciales:",
-                     "Faltan los parámetros iniciales de cálculo. Vaya a la opción Equilibrio límite.", ""}}},
-        CasoPuerta{"Roca", [](Proyecto& p) { p.TipoDeMaterial = "R"; }, "N",
-                   {{"pregunta", "", kDesembalse, "N"},
-                    {"mensaje", "No es SUELO:", "Ud. ha considerado el material como una 'ROCA'", ""}}},
-        CasoPuerta{"MetodoDeBishop", [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 2; }, "S",
-                   {{"pregunta", "", kDesembalse, "S"},
-                    {"mensaje", "No es el METODO:", "Ud. no ha seleccionado este método de cálculo", ""}}},
-        CasoPuerta{"MetodoVariacional", [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 1; }, "N",
-                   {{"pregunta", "", kDesembalse, "N"},
-                    {"mensaje", "No es el METODO:", "Ud. no ha seleccionado este método de cálculo", ""}}},
-        CasoPuerta{"NoRecalcular", [](Proyecto& p) { p.CálculoHecho = true; }, "NN",
-                   {{"pregunta", "", kDesembalse, "N"},
-                    {"pregunta", "", "El cálculo ya está hecho, ¿Desea recalcular?", "N"}}}),
-    [](const ::testing::TestParamInfo<CasoPuerta>& i) { return std::string(i.param.nombre); });
-
-TEST(PuertasFellenius, ElDesembalseTomaLaRespuestaAunqueUnaPuertaTermineElComando) {
-  Proyecto p = ProyectoDeSuelo(4);
-  p.ParámetrosIniciales.MétodoDeCálculo = 4;
-  InterfazGuionada sí("S");
-  MétodoFellenius(p, sí);
-  EXPECT_TRUE(p.DesembalseRápido);
-  InterfazGuionada no("N");
-  MétodoFellenius(p, no);
-  EXPECT_FALSE(p.DesembalseRápido);
-}
+const std::string kFinal = Final("Fellenius");
 
 // ---------------------------------------------------------------- three slices by hand
 

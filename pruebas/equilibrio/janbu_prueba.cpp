@@ -9,20 +9,16 @@
 #include "equilibrio/acads_apoyo.h"
 #include "equilibrio/janbu.h"
 #include "equilibrio/form17.h"
+#include "equilibrio/textos_apoyo.h"
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra {
 namespace {
 
-const char* const kFin =
-    "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para "
-    "suelos.";
-const char* const kDesembalse = "Está analizando desembalse rápido en presas de tierra?";
-const char* const kEtapas =
-    "¿Es primera vez que está haciendo el cálculo o modificó las características geométricas o "
-    "geomecánicas del "
-    "problema o niveles freáticos?";
+const std::string kFin = pruebas::Final("Janbu");
+using pruebas::kDesembalse;
+const std::string& kEtapas = pruebas::kPrimeraVez;
 const char* const kSolución = "¿Considera que es la solución?";
 const char* const kSalir = "¿Desea salir del cálculo?";
 
@@ -244,73 +240,6 @@ TEST(Janbu, LímiteDeLaPrimeraIteración) {
             "seguridad de la última "
             "iteración fue 1.496. No se guardó ningún resultado.");
   EXPECT_FALSE(p.CálculoHecho);
-}
-
-// --- Gates, word for word ------------------------------------------------------------------------
-
-TEST(JanbuPuertas, PalabraPorPalabra) {
-  struct Caso {
-    const char* nombre;
-    std::function<void(Proyecto&)> preparar;
-    std::string respuestas;
-    std::vector<std::string> esperado;
-  };
-  const std::string desembalse = "[pregunta]  | " + std::string(kDesembalse) + " -> N";
-  const Caso casos[] = {
-      {"sin tipo",
-       [](Proyecto& p) { p.TipoDeAnálisis = ""; },
-       "",
-       {"[mensaje]  | Seleccione en la pantalla principal la opción <T> ó <F>"}},
-      {"parámetros",
-       [](Proyecto& p) { p.ParámetrosInicialesDados = false; },
-       "",
-       {"[mensaje] Parámetros iniciales: | Faltan los parámetros iniciales de cálculo. Vaya a la "
-        "opción Equilibrio "
-        "límite."}},
-      {"recalcular",
-       [](Proyecto& p) { p.CálculoHecho = true; },
-       "NN",
-       {desembalse, "[pregunta]  | El cálculo ya está hecho, ¿Desea recalcular? -> N"}},
-      {"método",
-       [](Proyecto& p) { p.ParámetrosIniciales.MétodoDeCálculo = 2; },
-       "N",
-       {desembalse, "[mensaje] No es el METODO: | Ud. no ha seleccionado este método de cálculo"}},
-      {"grieta",
-       [](Proyecto& p) {
-         p.GrietaTracción.OrdenadaPrimerPunto = 3;
-         p.GrietaTracción.OrdenadaSegundoPunto = 2;
-       },
-       "N",
-       {desembalse,
-        "[mensaje] OJO PELAO con este mensaje: | Las coordenadas del segundo pto de la grieta "
-        "deben ser exactamente "
-        "iguales a las coordenadas del primer punto de la superficie de falla, por favor revise "
-        "las coordenadas de la "
-        "superficie de falla y las coordenadas de la grieta."}},
-      {"roca",
-       [](Proyecto& p) { p.TipoDeMaterial = "R"; },
-       "N",
-       {desembalse, "[mensaje] No es SUELO: | Ud. ha considerado el material como una 'ROCA'"}},
-      {"instantáneos",
-       [](Proyecto& p) { p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S"; },
-       "N",
-       {desembalse,
-        "[mensaje] No es el camino: | Este problema corresponde al método de parámetros "
-        "instantáneos por favor "
-        "seleccione:Suelos o Rocas (parámetros instantáneos c,fi). "}},
-  };
-  for (const auto& c : casos) {
-    Proyecto p;
-    TresDovelas(p);
-    c.preparar(p);
-    const bool hecho = p.CálculoHecho;
-    InterfazGuionada ui(c.respuestas);
-    MétodoJanbu(p, ui);
-    std::vector<std::string> líneas;
-    for (const auto& a : ui.Transcripción()) líneas.push_back(InterfazGuionada::Línea(a));
-    EXPECT_EQ(líneas, c.esperado) << c.nombre;
-    EXPECT_EQ(p.CálculoHecho, hecho) << c.nombre;
-  }
 }
 
 // --- Published case ------------------------------------------------------------------------------

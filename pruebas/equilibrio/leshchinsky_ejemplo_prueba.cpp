@@ -13,6 +13,7 @@
 #include "apoyo/apoyo.h"
 #include "equilibrio/acads_apoyo.h"
 #include "equilibrio/leshchinsky.h"
+#include "equilibrio/leshchinsky_apoyo.h"
 #include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
 #include "pantallas/interfaz_guionada.h"
@@ -101,7 +102,7 @@ namespace {
 // lateral loads, as the three sums say once they pass.
 TEST(LeshchinskyEjemplo, EstratificadoConGrietaCargasYAguaQuedaEnEquilibrio) {
   Proyecto p;
-  InterfazGuionada ui;
+  pruebas::InterfazEspía ui;
   ASSERT_TRUE(LeerProyecto(p, pruebas::RutaEjemplo("talud_estratificado.cod"), ui));
   auto& pi = p.ParámetrosIniciales;
   pi.MétodoDeCálculo = 1;
@@ -109,7 +110,10 @@ TEST(LeshchinskyEjemplo, EstratificadoConGrietaCargasYAguaQuedaEnEquilibrio) {
   pi.Multiplicador2 = 40;
   pi.FSInicial = 1.5;
   pi.EsfuerzoInicialCresta = 2;
+  pruebas::SumasPorPaso sumas;
+  sumas.Espiar(ui, p);
   ASSERT_EQ(EjecutarComando(ProcesoIterativoEnSuelos, p, ui), FinDeComando::Normal);
+  sumas.ComprobarFin();
   ASSERT_TRUE(p.CálculoHecho) << ui.Textos().back();
   ASSERT_GT(p.GrietaTracción.EmpujeGrieta, 0);
   ASSERT_GT(p.NúmeroCargasUniformes + p.NúmeroCargasPuntuales, 0);

@@ -104,10 +104,11 @@ TEST_F(UnaDovela, ElGradoDeConsolidaciónPasaALaSegundaRamaSobre60) {
   struct Caso {
     double cv, u;
   };
-  const double tv1 = 7.884 * 0.01, tv2 = 7.884 * 0.05;
+  const double tv1 = 7.884 * 0.01, tv2 = 7.884 * 0.05, tv3 = 7.884 * 0.042;
   const Caso casos[] = {
       {0.01, std::sqrt(4 * tv1 / 3.1415) * 100},               // 31.7: first branch
       {0.05, 100 - std::pow(10.0, (1.781 - tv2) / 0.933)},   // √ form gives 70.9: second branch
+      {0.042, 100 - std::pow(10.0, (1.781 - tv3) / 0.933)},  // √ form 64.9, just over 60: 64.2
   };
   for (const Caso& c : casos) {
     Dovela(0, 10, 5, 5, 5);
@@ -158,8 +159,9 @@ TEST_F(UnaDovela, ElDesembalseQuitaElAguaSobreElTaludPeroNoSuCarga) {
   }
 }
 
-TEST_F(UnaDovela, SinNivelSobreLaBaseNoHayPresión) {
-  Dovela(5, 10, 5, 0, 0);
+TEST_F(UnaDovela, UnNivelBajoLaBaseNoDaPresiónNegativa) {
+  // Phreatic line at 3, two metres under the base at 5: no pressure (not -2), no excess.
+  Dovela(5, 10, 3, 3, 3);
   Estrato(-10, {.húmedo = 1.7, .saturado = 2.0, .tipo = 1, .b = 0.5});
   InterfazGuionada ui;
   PresiónYPesoEnDovelas(p, ui);

@@ -8,7 +8,7 @@
 #include <fstream>
 
 #include "apoyo/apoyo.h"
-#include "lote/json_prueba.h"
+#include "lote/lote_apoyo.h"
 #include "proyecto/comandos.h"
 
 namespace lomaterra::pruebas {
@@ -54,18 +54,9 @@ const Caso kCasos[] = {
 };
 
 TEST(FelleniusEnEjemplos, FactorEnUnRangoRazonable) {
-  const std::string carpeta = CarpetaTemporal();
   for (const Caso& c : kCasos) {
     SCOPED_TRACE(c.archivo);
-    const std::string json = carpeta + "/" + c.archivo + ".json";
-    const std::string orden = std::string("'") + LOMATERRA_LOTE + "' '" + RutaEjemplo(c.archivo) +
-                              "' MétodoFellenius --json '" + json + "' >/dev/null 2>&1";
-    const int r = std::system(orden.c_str());
-    ASSERT_TRUE(WIFEXITED(r));
-    ASSERT_EQ(WEXITSTATUS(r), 0);
-    ValorJson v;
-    std::string error;
-    ASSERT_TRUE(LeerJson(pruebas::LeerArchivo(json), v, error)) << error;
+    const ValorJson v = LoteJson(c.archivo, "MétodoFellenius");
     // The run ended with the closing message of the method, not with a fault.
     const ValorJson* t = v.Campo("transcripción");
     ASSERT_TRUE(t && !t->lista.empty());

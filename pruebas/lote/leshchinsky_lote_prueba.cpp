@@ -12,28 +12,16 @@
 #include <vector>
 
 #include "apoyo/apoyo.h"
+#include "lote/lote_apoyo.h"
 #include "proyecto/compat.h"
 
 namespace lomaterra::pruebas {
 namespace {
 
-std::vector<std::string> LíneasDeLote(const std::string& argumentos, int& estado) {
-  const std::string salida = CarpetaTemporal() + "/salida.txt";
-  const std::string orden =
-      std::string("'") + LOMATERRA_LOTE + "' " + argumentos + " >'" + salida + "' 2>&1";
-  const int r = std::system(orden.c_str());
-  estado = WIFEXITED(r) ? WEXITSTATUS(r) : -1;
-  std::ifstream f(salida);
-  std::vector<std::string> líneas;
-  for (std::string l; std::getline(f, l);) líneas.push_back(l);
-  return líneas;
-}
-
 TEST(LeshchinskyLote, ElEjemploIteraHastaQueLasSumasPasan) {
-  int estado = -1;
-  const auto líneas = LíneasDeLote(
-      "'" + RutaEjemplo("leshchinsky_homogeneo.cod") + "' ProcesoIterativoEnSuelos", estado);
-  EXPECT_EQ(estado, 0);
+  const Corrida corrida = Lote({RutaEjemplo("leshchinsky_homogeneo.cod"), "ProcesoIterativoEnSuelos"});
+  EXPECT_EQ(corrida.estado, 0);
+  const auto& líneas = corrida.líneas;
   ASSERT_FALSE(líneas.empty());
   EXPECT_EQ(líneas.front(),
             "[pregunta]  | Está analizando desembalse rápido en presas de tierra? -> N");

@@ -13,42 +13,13 @@
 #include "apoyo/apoyo.h"
 #include "lote/ejemplos.h"
 #include "lote/json_prueba.h"
+#include "lote/lote_apoyo.h"
 #include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
 #include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra::pruebas {
 namespace {
-
-struct Corrida {
-  int estado = -1;
-  std::string salida, errores;
-  std::vector<std::string> líneas;  // of the output
-};
-
-std::string Citar(const std::string& s) {
-  std::string r = "'";
-  for (char c : s) r += c == '\'' ? std::string("'\\''") : std::string(1, c);
-  return r + "'";
-}
-
-Corrida Lote(const std::vector<std::string>& argumentos) {
-  static int n = 0;
-  const std::string carpeta = CarpetaTemporal();
-  const std::string salida = carpeta + "/salida" + std::to_string(n) + ".txt";
-  const std::string errores = carpeta + "/errores" + std::to_string(n++) + ".txt";
-  std::string orden = Citar(LOMATERRA_LOTE);
-  for (const auto& a : argumentos) orden += " " + Citar(a);
-  orden += " >" + Citar(salida) + " 2>" + Citar(errores);
-  const int r = std::system(orden.c_str());
-  Corrida c;
-  c.estado = WIFEXITED(r) ? WEXITSTATUS(r) : -1;
-  c.salida = pruebas::LeerArchivo(salida);
-  c.errores = pruebas::LeerArchivo(errores);
-  std::istringstream s(c.salida);
-  for (std::string l; std::getline(s, l);) c.líneas.push_back(l);
-  return c;
-}
 
 bool Enlazado(const std::string& nombre) {
   const auto árbol = ÁrbolDeMenús();

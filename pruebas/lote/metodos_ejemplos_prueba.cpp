@@ -3,32 +3,21 @@
 
 #include <sys/wait.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 
 #include "apoyo/apoyo.h"
-#include "lote/json_prueba.h"
+#include "lote/lote_apoyo.h"
 
 namespace lomaterra::pruebas {
 namespace {
-
-ValorJson Correr(const std::string& ejemplo, const std::string& comando) {
-  const std::string json = CarpetaTemporal() + "/salida.json";
-  const std::string orden = std::string("'") + LOMATERRA_LOTE + "' '" + RutaEjemplo(ejemplo) + "' " + comando +
-                            " --json '" + json + "' >/dev/null 2>&1";
-  const int r = std::system(orden.c_str());
-  EXPECT_TRUE(WIFEXITED(r) && WEXITSTATUS(r) == 0) << orden;
-  ValorJson v;
-  std::string error;
-  EXPECT_TRUE(LeerJson(pruebas::LeerArchivo(json), v, error)) << error;
-  return v;
-}
 
 TEST(MétodosEnEjemplos, JanbuEnElProblemaDeReferenciaACADS) {
   // The rigorous methods give 0.986 to 0.993 on the published critical circle. Janbu's generalised
   // procedure with the thrust at a third of each edge lands within 0.02 of that range (the slice
   // width and the crest point rounded to 51.24 m move it by a few thousandths).
-  const ValorJson v = Correr("janbu_acads.cod", "MétodoJanbu");
+  const ValorJson v = LoteJson("janbu_acads.cod", "MétodoJanbu");
   const ValorJson* t = v.Campo("transcripción");
   ASSERT_TRUE(t && t->tipo == ValorJson::Lista && !t->lista.empty());
   EXPECT_EQ(t->lista.back().texto,
@@ -39,20 +28,39 @@ TEST(MétodosEnEjemplos, JanbuEnElProblemaDeReferenciaACADS) {
 }
 
 TEST(MétodosEnEjemplos, BishopConBúsquedaDelRadioTerminaConSuMensaje) {
-  // A dry sand: no cohesion, so no slice gets a negative normal force and no guard asks; the
-  // search runs and the command closes with its message and a positive factor.
-  const ValorJson v = Correr("bishop_radio_variable.cod", "MétodoBishop");
+  // A dry sand (c = 0, phi = 34°) at 2H:1V: no slice gets a negative normal force and no guard
+  // asks; the search runs and the command closes with its message.
+  const ValorJson v = LoteJson("bishop_radio_variable.cod", "MétodoBishop");
   const ValorJson* t = v.Campo("transcripción");
   ASSERT_TRUE(t && t->tipo == ValorJson::Lista && !t->lista.empty());
   EXPECT_EQ(t->lista.size(), 2u);  // the drawdown question and the closing message
   EXPECT_EQ(t->lista.back().texto,
             "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Bishop para suelos.");
-  EXPECT_GT(v.Campo("FactorDeSeguridad")->número, 0.0);
+  // On the arc the driving side is taken as moments about the centre, sum W R sin a, while the
+  // resisting side sums forces, sum W tan phi / m_a with m_a = cos a + sin a tan phi / F. The
+  // radius comes back from two bases of the circle: x1 - x2 = R (sin a1 - sin a2). The factor
+  // shown must be a fixed point of that sum on the slices returned, to the 0.001 that stops the
+  // iteration.
+  const auto& d = v.Campo("Dovelas")->lista;
+  ASSERT_GE(d.size(), 2u);
+  auto c = [&](std::size_t i, const char* k) { return d[i].Campo(k)->número; };
+  const std::size_t último = d.size() - 1;
+  const double R = (c(0, "XMedio") - c(último, "XMedio")) /
+                   (std::sin(c(0, "ÁnguloBase")) - std::sin(c(último, "ÁnguloBase")));
+  const double F = v.Campo("FactorDeSeguridad")->número, tanφ = std::tan(34 * M_PI / 180);
+  double resiste = 0, mueve = 0;
+  for (std::size_t i = 0; i < d.size(); ++i) {
+    const double W = c(i, "PesoUnitarioMedio") * (c(i, "YTalud") - c(i, "YBase")) * c(i, "Ancho");
+    const double a = c(i, "ÁnguloBase");
+    resiste += W * tanφ / (std::cos(a) + std::sin(a) * tanφ / F);
+    mueve += W * R * std::sin(a);
+  }
+  EXPECT_NEAR(resiste / mueve, F, 0.001);
 }
 
 TEST(MétodosEnEjemplos, RocaPorLeshchinskyYSegundoPaseInstantáneo) {
   // The rock slope of GSI 20 converges by Leshchinsky and Huang in rock with N to every step.
-  const ValorJson roca = Correr("talud_roca_leshchinsky.cod", "ProcesoIterativoEnRocas");
+  const ValorJson roca = LoteJson("talud_roca_leshchinsky.cod", "ProcesoIterativoEnRocas");
   const ValorJson* t = roca.Campo("transcripción");
   ASSERT_TRUE(t && t->tipo == ValorJson::Lista && !t->lista.empty());
   EXPECT_EQ(t->lista.back().texto,
@@ -62,17 +70,17 @@ TEST(MétodosEnEjemplos, RocaPorLeshchinskyYSegundoPaseInstantáneo) {
   // A file with the letter "S": recalculate with new values (S, N), the method (S), no drawdown,
   // recalculate and go on.
   const ValorJson ins =
-      Correr("instantaneos_tras_janbu.cod", "CálculoParámetrosInstantáneos --respuestas SNSNSS");
+      LoteJson("instantaneos_tras_janbu.cod", "CálculoParámetrosInstantáneos --respuestas SNSNSS");
   t = ins.Campo("transcripción");
   ASSERT_TRUE(t && t->tipo == ValorJson::Lista && !t->lista.empty());
   EXPECT_EQ(t->lista.back().texto,
             "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para suelos.");
   // Before the command the method refuses the letter "S"; keeping the values the pass says so.
-  const ValorJson rechazo = Correr("instantaneos_tras_janbu.cod", "MétodoJanbu --respuestas NS");
+  const ValorJson rechazo = LoteJson("instantaneos_tras_janbu.cod", "MétodoJanbu --respuestas NS");
   t = rechazo.Campo("transcripción");
   ASSERT_TRUE(t && !t->lista.empty());
   EXPECT_NE(t->lista.back().texto.find("No es el camino:"), std::string::npos);
-  const ValorJson mismos = Correr("instantaneos_tras_janbu.cod", "CálculoParámetrosInstantáneos --respuestas SSSNSS");
+  const ValorJson mismos = LoteJson("instantaneos_tras_janbu.cod", "CálculoParámetrosInstantáneos --respuestas SSSNSS");
   t = mismos.Campo("transcripción");
   ASSERT_TRUE(t && t->lista.size() > 2);
   bool reutilizó = false;

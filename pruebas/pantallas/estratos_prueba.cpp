@@ -94,13 +94,16 @@ TEST_F(Estratos, ConfirmaciónDelPesoSaturado) {
 }
 
 TEST_F(Estratos, EstratoNaturalTomaTiempoCero) {
-  ui.Responder("S");
-  Elegir(1);
-  Escribir("2", "30", "1.8", "2", "b", "0", "0", "4");
-  Modificar();
-  ASSERT_FALSE(ui.Textos().empty());
-  EXPECT_EQ(ui.Textos()[0], "Si el estrato es natural, entonces el Tiempo de construcción es cero");
-  EXPECT_EQ(pantalla.lista("ListaEstratos").filas[0][8], "0.00");
+  for (const char* tiempo : {"4", "-2"}) {  // any time but zero, also below it
+    ui.Olvidar();
+    ui.Responder("S");
+    Elegir(1);
+    Escribir("2", "30", "1.8", "2", "b", "0", "0", tiempo);
+    Modificar();
+    ASSERT_FALSE(ui.Textos().empty()) << tiempo;
+    EXPECT_EQ(ui.Textos()[0], "Si el estrato es natural, entonces el Tiempo de construcción es cero") << tiempo;
+    EXPECT_EQ(pantalla.lista("ListaEstratos").filas[0][8], "0.00") << tiempo;
+  }
 }
 
 TEST_F(Estratos, AceptarPideLaLetraSYTodasLasFilas) {

@@ -73,7 +73,8 @@ INSTANTIATE_TEST_SUITE_P(
         CasoForm9{
             "NS", false, true, {"¿Considera que es la solución?", "¿Desea salir del cálculo?"}},
         CasoForm9{
-            "NN", false, false, {"¿Considera que es la solución?", "¿Desea salir del cálculo?"}}));
+            "NN", false, false, {"¿Considera que es la solución?", "¿Desea salir del cálculo?"}}),
+    [](const auto& i) { return std::string("Respuestas") + i.param.respuestas; });
 
 // ------------------------------------------------------------------------------------------------
 // Form13

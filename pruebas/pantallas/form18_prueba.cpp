@@ -201,7 +201,13 @@ INSTANTIATE_TEST_SUITE_P(
         CasoPuertaForm34{"T", true, 1,
                          "Ordene al programa hacer la estimación del factor de seguridad. Luego "
                          "puede entrar a esta "
-                         "sesión y modificar las presiones de poros y hacer un recálculo."}));
+                         "sesión y modificar las presiones de poros y hacer un recálculo."}),
+    [](const auto& i) {
+      const std::string tipo = i.param.tipo;
+      if (tipo.empty()) return std::string("SinTipo");
+      if (tipo == "F") return std::string("ElementosFinitos");
+      return std::string(i.param.calculado ? "SinDovelas" : "SinCalculo");
+    });
 
 }  // namespace
 }  // namespace lomaterra
