@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "elementos/malla_apoyo.h"
+#include "elementos/plastico.h"
 #include "elementos/viscoplastico.h"
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
@@ -186,4 +187,45 @@ TEST(Viscoplástico, Puertas) {
     EXPECT_EQ(ui.Textos()[0], k.texto);
     EXPECT_FALSE(q.CálculoHecho);
   }
+}
+
+// Perfect plasticity: far from yield the plastic column repeats the elastic one; a column that
+// yields changes its stresses and keeps its restrained base in place.
+TEST(Plástico, SinFluenciaElPasoDosRepiteElUno) {
+  Proyecto p;
+  Columna(p, 2, 6, 1000, 30);
+  InterfazGuionada ui;
+  CálculoEsfuerzosComportamientoPlástico(p, ui);
+  const MallaElementos& m = p.Malla;
+  ASSERT_EQ(m.NúmeroDeIteración, 2);
+  for (long e = 1; e <= m.NúmeroDeElementos; ++e) {
+    EXPECT_EQ(m.EsfuerzoY(e, 2), m.EsfuerzoY(e, 1));
+    EXPECT_EQ(m.EsfuerzoPrincipalMenor(e, 2), m.EsfuerzoPrincipalMenor(e, 1));
+  }
+  for (long d = 1; d <= 2L * m.NúmeroDeNodos; ++d) EXPECT_EQ(m.Desplazamientos(d, 2), m.Desplazamientos(d, 1));
+  EXPECT_EQ(Pantallas(ui, "Form29"), 1);
+}
+
+// The sweep on a diagonally dominant system converges to its solution: 4x + y = 9, x + 3y = 8
+// gives x = 19/11, y = 23/11.
+TEST(Plástico, BarridoJacobiEnUnSistemaDominante) {
+  const std::vector<double> x = BarridoJacobi({4, 1, 1, 3}, {9, 8}, 2);
+  EXPECT_NEAR(x[0], 19.0 / 11, 0.002);
+  EXPECT_NEAR(x[1], 23.0 / 11, 0.002);
+}
+
+TEST(Plástico, ColumnaQueFluyeSinNúmerosPerdidos) {
+  Proyecto p;
+  Columna(p, 2, 6, 0, 5);
+  InterfazGuionada ui;
+  CálculoEsfuerzosComportamientoPlástico(p, ui);
+  const MallaElementos& m = p.Malla;
+  ASSERT_GT(m.FluenciaMáxima, 0);
+  bool cambia = false;
+  for (long e = 1; e <= m.NúmeroDeElementos; ++e) {
+    EXPECT_TRUE(std::isfinite(m.EsfuerzoY(e, 2)) && std::isfinite(m.EsfuerzoX(e, 2)));
+    cambia = cambia || m.EsfuerzoX(e, 2) != m.EsfuerzoX(e, 1);
+  }
+  EXPECT_TRUE(cambia);
+  for (long d = 1; d <= 2L * m.NúmeroDeNodos; ++d) EXPECT_TRUE(std::isfinite(m.Desplazamientos(d, 2)));
 }
