@@ -17,6 +17,8 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lomaterra"));
   QApplication::setWindowIcon(IconoLomaterra());
+  // Qt's own dialogs and buttons (the file dialogs above all) speak Spanish, as the program does.
+  CargarTraducciónDeQt(app);
   // Numbers are read and written with a point whatever the user's locale.
   std::setlocale(LC_NUMERIC, "C");
 

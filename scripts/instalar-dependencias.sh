@@ -5,6 +5,7 @@ paquetes=(
   build-essential cmake ninja-build pkg-config
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   qt6-base-dev qt6-base-dev-tools libqt6svg6-dev qt6-charts-dev libqt6opengl6-dev
+  qt6-translations-l10n
   libgl1-mesa-dev libxkbcommon-dev
   fonts-dejavu-core xvfb xauth poppler-utils locales
 )

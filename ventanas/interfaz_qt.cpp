@@ -8,8 +8,16 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
+#include <QLabel>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+#include <algorithm>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -41,12 +49,26 @@ QStringList CarpetasPorDefecto() {
   return r;
 }
 
-// Message boxes carry their long single-line texts wrapped at a readable width.
-void Preparar(QMessageBox& caja, const std::string& texto, const std::string& título) {
-  caja.setWindowTitle(InterfazQt::TítuloDeCaja(título));
-  caja.setText(Q(texto));
-  caja.setTextFormat(Qt::PlainText);
-  caja.setStyleSheet("QLabel#qt_msgbox_label { min-width: 400px; max-width: 560px; }");
+// A box asked while a screen is open stands beside that screen, not over it: the user reads the
+// screen (a factor of safety, the sums of an iteration) while answering.
+void ApartarDeLaPantalla(QDialog& caja, QWidget* padre) {
+  auto* vista = dynamic_cast<VistaPantalla*>(padre);
+  if (!vista || !vista->isVisible()) return;
+  caja.adjustSize();
+  const QRect marco = vista->frameGeometry();
+  const QSize t = caja.frameGeometry().size().expandedTo(caja.size());
+  const QRect área = vista->screen() ? vista->screen()->availableGeometry() : QRect();
+  const QPoint opciones[] = {{marco.left(), marco.bottom() + 8},
+                             {marco.right() + 8, marco.top()},
+                             {marco.left() - t.width() - 8, marco.top()},
+                             {marco.left(), marco.top() - t.height() - 8}};
+  QPoint destino = opciones[0];
+  for (const QPoint& o : opciones)
+    if (!área.isValid() || área.contains(QRect(o, t))) {
+      destino = o;
+      break;
+    }
+  caja.move(destino);
 }
 
 }  // namespace
@@ -73,25 +95,116 @@ FiltroQt ConvertirFiltro(const std::string& filtro, int índice) {
   return r;
 }
 
-std::unique_ptr<QMessageBox> CrearCaja(const std::string& texto, const std::string& título,
-                                       bool pregunta, QWidget* padre) {
-  auto caja =
-      std::make_unique<QMessageBox>(pregunta ? QMessageBox::Question : QMessageBox::Information,
-                                    QString(), QString(), QMessageBox::NoButton, padre);
-  Preparar(*caja, texto, título);
+CajaDeMensaje::CajaDeMensaje(const QString& texto, const QString& título, bool pregunta,
+                             QWidget* padre)
+    : QDialog(padre), texto_(texto) {
+  setObjectName("CajaDeMensaje");
+  setWindowTitle(título);
+  icono_ = new QLabel(this);
+  icono_->setObjectName("IconoCaja");
+  icono_->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
+  const QIcon estándar = style()->standardIcon(pregunta ? QStyle::SP_MessageBoxQuestion
+                                                        : QStyle::SP_MessageBoxInformation);
+  icono_->setPixmap(estándar.pixmap(32, 32));
+
+  etiqueta_ = new QLabel(texto, this);
+  etiqueta_->setObjectName("TextoCaja");
+  etiqueta_->setTextFormat(Qt::PlainText);
+  etiqueta_->setWordWrap(true);
+  etiqueta_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  etiqueta_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  // The text wraps at a readable width; a short text keeps the box narrow.
+  const QFontMetrics métrica(etiqueta_->font());
+  const int natural = métrica.horizontalAdvance(texto) + 8;
+  const int ancho = std::clamp(natural, 240, kAnchoTexto);
+  const int alto = std::max(etiqueta_->heightForWidth(ancho), métrica.height());
+  etiqueta_->setFixedWidth(ancho);
+  etiqueta_->setMinimumHeight(alto);
+
+  desplazamiento_ = new QScrollArea(this);
+  desplazamiento_->setObjectName("DesplazamientoCaja");
+  desplazamiento_->setFrameShape(QFrame::NoFrame);
+  desplazamiento_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  desplazamiento_->setWidget(etiqueta_);
+  desplazamiento_->setWidgetResizable(false);
+  etiqueta_->resize(ancho, alto);
+  const bool desborda = alto > kAltoMáximo;
+  const int barra = desborda ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 : 0;
+  desplazamiento_->setFixedSize(ancho + barra, std::min(alto, kAltoMáximo));
+  desplazamiento_->setBackgroundRole(QPalette::Window);
+
+  botones_ = new QDialogButtonBox(this);
   if (pregunta) {
-    QPushButton* sí = caja->addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
-    QPushButton* no = caja->addButton(QStringLiteral("&No"), QMessageBox::NoRole);
+    QPushButton* sí = botones_->addButton(QStringLiteral("&Sí"), QDialogButtonBox::YesRole);
+    QPushButton* no = botones_->addButton(QStringLiteral("&No"), QDialogButtonBox::NoRole);
     sí->setObjectName("BotónSí");
     no->setObjectName("BotónNo");
-    caja->setDefaultButton(sí);
-    caja->setEscapeButton(no);
+    porDefecto_ = sí;
+    escape_ = no;
   } else {
-    QPushButton* aceptar = caja->addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
+    QPushButton* aceptar =
+        botones_->addButton(QStringLiteral("Aceptar"), QDialogButtonBox::AcceptRole);
     aceptar->setObjectName("BotónAceptar");
-    caja->setDefaultButton(aceptar);
+    porDefecto_ = escape_ = aceptar;
   }
-  return caja;
+  if (auto* b = qobject_cast<QPushButton*>(porDefecto_)) {
+    b->setDefault(true);
+    b->setFocus();
+  }
+  connect(botones_, &QDialogButtonBox::clicked, this, [this](QAbstractButton* b) {
+    pulsado_ = b;
+    accept();
+  });
+
+  auto* arriba = new QHBoxLayout;
+  arriba->setSpacing(14);
+  arriba->addWidget(icono_, 0, Qt::AlignTop);
+  arriba->addWidget(desplazamiento_, 1);
+  auto* todo = new QVBoxLayout(this);
+  todo->setSizeConstraint(QLayout::SetFixedSize);
+  todo->setContentsMargins(16, 16, 16, 12);
+  todo->addLayout(arriba);
+  todo->addSpacing(8);
+  todo->addWidget(botones_);
+}
+
+QList<QAbstractButton*> CajaDeMensaje::buttons() const {
+  return botones_->buttons();
+}
+
+void CajaDeMensaje::setIconPixmap(const QPixmap& imagen) {
+  icono_->setPixmap(imagen);
+}
+
+void CajaDeMensaje::reject() {
+  // Escape and the close box answer as the No of a question or the Aceptar of a message.
+  pulsado_ = escape_;
+  QDialog::reject();
+}
+
+std::unique_ptr<CajaDeMensaje> CrearCaja(const std::string& texto, const std::string& título,
+                                         bool pregunta, QWidget* padre) {
+  return std::make_unique<CajaDeMensaje>(Q(texto), InterfazQt::TítuloDeCaja(título), pregunta,
+                                         padre);
+}
+
+std::string TextoDeEntrada(const QString& texto) {
+  static const QRegularExpression kComaDecimal(
+      QStringLiteral("^\\s*[+-]?(\\d+,\\d*|,\\d+)([eEdD][+-]?\\d+)?\\s*$"));
+  if (!kComaDecimal.match(texto).hasMatch()) return S(texto);
+  QString conPunto = texto;
+  conPunto.replace(',', '.');
+  return S(conPunto);
+}
+
+QTranslator* CargarTraducciónDeQt(QCoreApplication& app) {
+  auto* traductor = new QTranslator(&app);
+  if (traductor->load(QLocale(QLocale::Spanish, QLocale::Spain), QStringLiteral("qtbase"),
+                      QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
+      app.installTranslator(traductor))
+    return traductor;
+  delete traductor;
+  return nullptr;
 }
 
 InterfazQt::InterfazQt(QWidget* ventana) : ventana_(ventana) {}
@@ -111,13 +224,16 @@ void InterfazQt::HacerMensaje(const std::string& texto, const std::string& títu
     return;
   }
   MostrarLaQueSeActiva();
-  CrearCaja(texto, título, false, Padre())->exec();
+  auto caja = CrearCaja(texto, título, false, Padre());
+  ApartarDeLaPantalla(*caja, activando_ ? activando_ : Padre());
+  caja->exec();
 }
 
 bool InterfazQt::HacerPregunta(const std::string& texto, const std::string& título) {
   if (sustituto_) return sustituto_->Pregunta(texto, título);
   MostrarLaQueSeActiva();
   auto caja = CrearCaja(texto, título, true, Padre());
+  ApartarDeLaPantalla(*caja, activando_ ? activando_ : Padre());
   caja->exec();
   return caja->clickedButton() == caja->defaultButton();
 }
@@ -180,12 +296,25 @@ std::optional<std::string> InterfazQt::HacerElegirArchivoGuardar(const std::stri
   if (sustituto_) return sustituto_->ElegirArchivoGuardar(filtro, índice);
   const FiltroQt f = ConvertirFiltro(filtro, índice);
   QFileDialog diálogo(Padre(), QStringLiteral("Guardar como"), QString(), f.filtros);
+  ConfigurarGuardar(diálogo, f);
+  if (diálogo.exec() != QDialog::Accepted || diálogo.selectedFiles().isEmpty()) return std::nullopt;
+  return S(QDir::toNativeSeparators(diálogo.selectedFiles().front()));
+}
+
+void InterfazQt::ConfigurarGuardar(QFileDialog& diálogo, const FiltroQt& f) const {
   diálogo.setAcceptMode(QFileDialog::AcceptSave);
   diálogo.selectNameFilter(f.seleccionado);
   // A name typed without extension under "Archivos de coordenadas (*.cod)" is saved as .cod.
   diálogo.setDefaultSuffix(f.extensión);
-  if (diálogo.exec() != QDialog::Accepted || diálogo.selectedFiles().isEmpty()) return std::nullopt;
-  return S(QDir::toNativeSeparators(diálogo.selectedFiles().front()));
+  // The program asks itself whether to overwrite, once, in its own words.
+  diálogo.setOption(QFileDialog::DontConfirmOverwrite, true);
+  // It starts on the project's own file when it has one.
+  const QString actual = nombreActual_ ? nombreActual_() : QString();
+  if (!actual.isEmpty()) {
+    const QFileInfo info(QDir::fromNativeSeparators(actual));
+    if (info.dir().exists()) diálogo.setDirectory(info.absolutePath());
+    diálogo.selectFile(info.fileName());
+  }
 }
 
 void InterfazQt::CarpetasDeAyuda(const QStringList& carpetas) {

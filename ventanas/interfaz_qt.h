@@ -14,7 +14,13 @@
 
 #include "proyecto/interfaz.h"
 
-class QMessageBox;
+class QAbstractButton;
+class QCoreApplication;
+class QTranslator;
+class QDialogButtonBox;
+class QFileDialog;
+class QLabel;
+class QScrollArea;
 class QWidget;
 
 namespace lomaterra {
@@ -30,9 +36,39 @@ struct FiltroQt {
 // "Nombre (*.x)|*.x|Otro (*.y)|*.y" -> pairs of caption and pattern in Qt form.
 FiltroQt ConvertirFiltro(const std::string& filtro, int índice);
 
+// A message box (Aceptar) or a question box (Sí / No) that shows its whole text: the text wraps at
+// a readable width, the box grows in height to hold it, and a text taller than most of the screen
+// scrolls inside the box.
+class CajaDeMensaje : public QDialog {
+  Q_OBJECT
+ public:
+  CajaDeMensaje(const QString& texto, const QString& título, bool pregunta, QWidget* padre);
+  QString text() const { return texto_; }
+  QList<QAbstractButton*> buttons() const;
+  QAbstractButton* clickedButton() const { return pulsado_; }
+  QAbstractButton* defaultButton() const { return porDefecto_; }
+  void setIconPixmap(const QPixmap& imagen);
+  // The width the text wraps at and the most height it takes before it scrolls.
+  static constexpr int kAnchoTexto = 520;
+  static constexpr int kAltoMáximo = 420;
+
+ protected:
+  void reject() override;
+
+ private:
+  QString texto_;
+  QLabel* icono_ = nullptr;
+  QLabel* etiqueta_ = nullptr;
+  QScrollArea* desplazamiento_ = nullptr;
+  QDialogButtonBox* botones_ = nullptr;
+  QAbstractButton* pulsado_ = nullptr;
+  QAbstractButton* porDefecto_ = nullptr;
+  QAbstractButton* escape_ = nullptr;
+};
+
 // The box of a message (Aceptar) or of a question (Sí / No), before it is shown.
-std::unique_ptr<QMessageBox> CrearCaja(const std::string& texto, const std::string& título,
-                                       bool pregunta, QWidget* padre);
+std::unique_ptr<CajaDeMensaje> CrearCaja(const std::string& texto, const std::string& título,
+                                         bool pregunta, QWidget* padre);
 
 class InterfazQt : public Interfaz {
  public:
@@ -52,6 +88,10 @@ class InterfazQt : public Interfaz {
   void HacerImprimir(const Informe& informe) override;
 
   void FijarVentana(QWidget* ventana) { ventana_ = ventana; }
+  // The project's current file, where the save dialog starts (empty: none yet).
+  void AlNombreActual(std::function<QString()> f) { nombreActual_ = std::move(f); }
+  // The save dialog as HacerElegirArchivoGuardar shows it (used also by the gallery and tests).
+  void ConfigurarGuardar(QFileDialog& diálogo, const FiltroQt& f) const;
   // Where the status texts go (the main window's status line).
   void AlEstado(std::function<void(const QString&)> f) { alEstado_ = std::move(f); }
 
@@ -78,12 +118,22 @@ class InterfazQt : public Interfaz {
 
   QWidget* ventana_ = nullptr;
   std::function<void(const QString&)> alEstado_;
+  std::function<QString()> nombreActual_;
   Interfaz* sustituto_ = nullptr;
   std::function<void(VistaPantalla&)> alMostrar_;
   QPointer<QDialog> ayuda_;
   VistaPantalla* activando_ = nullptr;  // the view of the screen whose Activar is running  // one
                                         // help window, raised again when asked for again
 };
+
+// Loads Qt's Spanish catalogue (qtbase_es) into the application: the file dialogs and Qt's standard
+// buttons then speak Spanish. False when the catalogue is not installed.
+// Returns the installed translator (owned by the application), or null.
+QTranslator* CargarTraducciónDeQt(QCoreApplication& app);
+
+// The text of an entry box as the core reads it: a number typed with a decimal comma, as a Spanish
+// user types it ("12,5"), is handed over with a point ("12.5"); any other text goes as it is.
+std::string TextoDeEntrada(const QString& texto);
 
 // QString from and to the UTF-8 strings of the core.
 inline QString Q(const std::string& s) {

@@ -89,6 +89,7 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
   líneaEstado_->setTextFormat(Qt::PlainText);
   statusBar()->addWidget(líneaEstado_, 1);
   ui_.AlEstado([this](const QString& t) { líneaEstado_->setText(t); });
+  ui_.AlNombreActual([this] { return Q(proyecto_.Ventana.NombreArchivo); });
 
   connect(textoProyecto_, &QPlainTextEdit::textChanged, this, [this] {
     if (refrescando_) return;
@@ -176,9 +177,9 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
   formulario->addRow(QStringLiteral("Y (m):"), textoY_);
   vertical->addLayout(formulario);
   connect(textoX_, &QLineEdit::textEdited, this,
-          [this](const QString& t) { proyecto_.Ventana.TextoX = S(t); });
+          [this](const QString& t) { proyecto_.Ventana.TextoX = TextoDeEntrada(t); });
   connect(textoY_, &QLineEdit::textEdited, this,
-          [this](const QString& t) { proyecto_.Ventana.TextoY = S(t); });
+          [this](const QString& t) { proyecto_.Ventana.TextoY = TextoDeEntrada(t); });
 
   auto* botones = new QHBoxLayout;
   QPushButton* agregar = Botón("BotónAgregar", QStringLiteral("Agre&gar"), panel);
@@ -208,8 +209,8 @@ QWidget* VentanaPrincipalQt::ConstruirPanel() {
 
 void VentanaPrincipalQt::Sincronizar() {
   EstadoVentana& v = proyecto_.Ventana;
-  v.TextoX = S(textoX_->text());
-  v.TextoY = S(textoY_->text());
+  v.TextoX = TextoDeEntrada(textoX_->text());
+  v.TextoY = TextoDeEntrada(textoY_->text());
   const auto filas = listaCoordenadas_->selectionModel()->selectedRows();
   v.FilaSeleccionada = filas.isEmpty() ? 0 : filas.front().row() + 1;
 }
@@ -300,6 +301,9 @@ void VentanaPrincipalQt::Refrescar() {
     líneaEstado_->setText(Q(v.TextoEstado));
   }
   dibujo_->Actualizar();
+  if (!dibujo_->Aviso().empty() && dibujo_->Aviso() != últimoAviso_)
+    líneaEstado_->setText(Q(dibujo_->Aviso()));
+  últimoAviso_ = dibujo_->Aviso();
   refrescando_ = false;
 }
 

@@ -68,6 +68,7 @@ class VentanaPrincipalQt : public QMainWindow {
   bool refrescando_ = false;
   bool cerrando_ = false;
   std::string últimoEstado_;
+  std::string últimoAviso_;  // the drawing's last word on the arc, shown once
 
   QPlainTextEdit* textoProyecto_ = nullptr;
   QLabel* etiquetaCoordenadas_ = nullptr;

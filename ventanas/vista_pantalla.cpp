@@ -187,7 +187,7 @@ void VistaPantalla::Construir() {
 
 void VistaPantalla::Recoger() {
   for (std::size_t i = 0; i < cajas_.size() && i < pantalla_.campos.size(); ++i)
-    if (!cajas_[i]->isReadOnly()) pantalla_.campos[i].valor = S(cajas_[i]->text());
+    if (!cajas_[i]->isReadOnly()) pantalla_.campos[i].valor = TextoDeEntrada(cajas_[i]->text());
   for (std::size_t l = 0; l < tablas_.size() && l < pantalla_.listas.size(); ++l) {
     const auto elegidas = tablas_[l]->selectionModel()->selectedRows();
     pantalla_.listas[l].seleccionada = elegidas.isEmpty() ? 0 : elegidas.front().row() + 1;

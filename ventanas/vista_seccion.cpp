@@ -19,10 +19,21 @@ VistaSección::VistaSección(const Proyecto& proyecto, QWidget* padre)
 void VistaSección::Actualizar() {
   // A project half entered may not yet make a drawing; the window then shows an empty frame
   // rather than a fault of its own.
+  // The panel's points are drawn as they are entered: a copy of the project takes the working
+  // copy as the panel would store it when the user leaves it, and the copy is drawn.
   try {
-    figura_ = FiguraSección(proyecto_);
+    if (proyecto_.Ventana.EntradaCoordenadasAbierta) {
+      Proyecto copia = proyecto_;
+      GuardarPanelCoordenadas(copia, copia.Ventana.TipoPanel, copia.Ventana.EstratoPanel);
+      figura_ = FiguraSección(copia);
+      aviso_ = AvisoDelArco(copia);
+    } else {
+      figura_ = FiguraSección(proyecto_);
+      aviso_ = AvisoDelArco(proyecto_);
+    }
   } catch (const std::exception&) {
     figura_ = Figura{};
+    aviso_.clear();
   }
   update();
 }

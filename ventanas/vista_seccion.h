@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
 
 #include "salida/figura.h"
 
@@ -18,6 +19,9 @@ class VistaSección : public QWidget {
   void Actualizar();
   const Figura& figura() const { return figura_; }
   bool TieneDibujo() const;
+  // What the drawing had to assume (a radius raised to reach half the chord), for the status
+  // line; empty when nothing.
+  const std::string& Aviso() const { return aviso_; }
 
   QSize sizeHint() const override { return {640, 420}; }
   QSize minimumSizeHint() const override { return {240, 160}; }
@@ -28,6 +32,7 @@ class VistaSección : public QWidget {
  private:
   const Proyecto& proyecto_;
   Figura figura_;
+  std::string aviso_;
 };
 
 }  // namespace lomaterra

@@ -349,6 +349,11 @@ void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& o
   }
   if (!PuertaGrieta(p, ui)) return;
 
+  // A run that stops (a No at a guard, no convergence, a fault) leaves the project as it was
+  // before it: the stages rebuild the slices, the radius search zeroes the result columns and
+  // moves the radius and centre through trial values, none of which may outlive a run with no
+  // result.
+  const Proyecto antes = p;
   const HistoriaGuardada historia(p);
   p.NúmeroIteraciones = 0;
   if (Mayúsculas(p.TipoDeMaterial) == "R" && !pi.UsaParámetrosInstantáneos) {
@@ -364,7 +369,12 @@ void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& o
     historia.Devolver(p);
     return;
   }
-  DovelasDelMétodo(p, ui);
+  try {
+    DovelasDelMétodo(p, ui);
+  } catch (...) {
+    p = antes;
+    throw;
+  }
   if (p.NúmeroBordes < 2) {
     AvisoSinDovelas(ui);
     historia.Devolver(p);
@@ -373,14 +383,23 @@ void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& o
 
   const EjecutorEtapas etapas = opciones.etapas ? opciones.etapas : EjecutorEtapas(EjecutarEtapas);
   GuardasBishop guardas;
-  ResultadoIteración r = IteraciónBishop(p, ui, guardas, opciones.límitePasadas);
-  if (r.fin == FinIteración::Convergió && pi.VaríaRadio && p.SuperficieCircular())
-    r = BúsquedaDelRadio(p, ui, guardas, r.FS, etapas, opciones.límitePasadas);
+  ResultadoIteración r;
+  try {
+    r = IteraciónBishop(p, ui, guardas, opciones.límitePasadas);
+    if (r.fin == FinIteración::Convergió && pi.VaríaRadio && p.SuperficieCircular())
+      r = BúsquedaDelRadio(p, ui, guardas, r.FS, etapas, opciones.límitePasadas);
+  } catch (...) {
+    p = antes;
+    historia.Devolver(p);
+    throw;
+  }
   if (r.fin == FinIteración::Salió) {
+    p = antes;
     historia.Devolver(p);
     return;
   }
   if (r.fin == FinIteración::NoConvergió) {
+    p = antes;
     historia.Devolver(p);
     AvisoSinConvergencia(ui, "Bishop", r.FS, opciones.límitePasadas);
     return;

@@ -340,6 +340,14 @@ void PantallaConstantes::Aceptar(Interfaz& ui) {
     ui.Mensaje(kAbscisasGrieta, kTítuloAbscisas);
     return;
   }
+  // What no calculation can hold, once the checks above have passed.
+  if (dovelas > kMáximoDovelas) {
+    ui.Mensaje("El número de dovelas no puede pasar de " + std::to_string(kMáximoDovelas) +
+                   ": es lo que los métodos de cálculo pueden resolver. Dé un número de dovelas "
+                   "entre 3 y " + std::to_string(kMáximoDovelas) + ".",
+               "Número de dovelas");
+    return;
+  }
   // 15
   pi.Multiplicador1 = número("TextoMultiplicadorLagrange1");
   pi.Multiplicador2 = número("TextoMultiplicadorLagrange2");

@@ -34,6 +34,9 @@ struct ArcoDeConstantes {
 bool CentroDelArcoDeConstantes(double x1, double y1, double x2, double y2, double radio,
                                ArcoDeConstantes& arco);
 
+// The most slices a calculation takes: the constants screen refuses more.
+inline constexpr int kMáximoDovelas = 5000;
+
 // Opens the constants screen modally (menu command MenúArchivoConstantes without its gate; also
 // called by the centre of the arc when the radius is below half the chord).
 void AbrirConstantesDeCálculo(Proyecto& p, Interfaz& ui);

@@ -71,7 +71,7 @@ double RaízDelArco(double radio, double dx) {
 }
 
 [[noreturn]] void ExcesoDePasos(const char* qué) {
-  std::string texto = "la búsqueda de ";
+  std::string texto = "la búsqueda ";
   texto += qué;
   texto += " no termina";
   throw FalloAritmético(texto);
@@ -130,7 +130,7 @@ double IntersecciónArco(Proyecto& p, Interfaz& ui, long i, double mf, double ys
       d = dn;
     }
   }
-  ExcesoDePasos("la intersección del arco de falla con un estrato");
+  ExcesoDePasos("de la intersección del arco de falla con un estrato");
 }
 
 // The polynomial of the stretch meets the stratum line: a march brackets the root, a secant
@@ -195,7 +195,7 @@ double IntersecciónPolinomio(Proyecto& p, long i, double mf, double ys0, double
     a = b;
     b = xn;
   }
-  ExcesoDePasos("la intersección de un tramo polinómico con un estrato");
+  ExcesoDePasos("de la intersección de un tramo polinómico con un estrato");
 }
 
 }  // namespace
@@ -215,7 +215,7 @@ void CentroDelArco(Proyecto& p, Interfaz& ui) {
     // While the centre falls below the first point the radius grows by 0.5; both the given radius
     // and the radius in use grow, so that the angle is taken on the new radius.
     for (long n = 0;; ++n) {
-      if (n >= kMáximoPasos) ExcesoDePasos("el centro del arco");
+      if (n >= kMáximoPasos) ExcesoDePasos("del centro del arco");
       const double c = Div(pi.Cuerda, 2 * t.RadioActual, "el ángulo del arco");
       const double theta = std::atan(Div(c, Raíz(1 - c * c, "el ángulo del arco"), "el ángulo del arco"));
       const double gamma = theta - beta;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <vector>
 
+#include "equilibrio/bishop.h"
 #include "equilibrio/dovelas.h"
 #include "equilibrio/dovelas_interno.h"
 #include "equilibrio/puertas.h"
@@ -75,13 +76,16 @@ void MétodoFellenius(Proyecto& p, Interfaz& ui) {
   }
   if (!PuertaRecalcular(p, ui)) return;
   PrepararDovelas(p, ui);
+  const long nd = NúmeroDeDovelas(p);
+  if (nd < 1) {
+    AvisoSinDovelas(ui);
+    return;
+  }
 
   LimpiarExcepcionesFlotantes();
   const auto& d = p.TablaDovelas;
   const auto& t = p.Trabajo;
   const auto& g = p.GrietaTracción;
-  const long nd = NúmeroDeDovelas(p);
-  if (nd < 1) throw FalloAritmético("una superficie de falla sin dovelas");
   const double kh = pi.CoeficienteSísmicoHorizontal, kv = pi.CoeficienteSísmicoVertical;
   const double xr = (t.XMáximaFalla + t.XMínimaFalla) / 2;
   const double yr = 1.5 * t.YPrimerPuntoFalla;

@@ -17,6 +17,10 @@ Form17::Form17(Proyecto& p) : p_(p) {
   nombre = "Form17";
   título = "Opción para cambio de altura entre dovelas";
   campos = {
+      {"TextoFactorDeSeguridad", "Factor de seguridad de esta iteración", "",
+       "El factor de seguridad calculado con las alturas de la lista: léalo antes de decidir si "
+       "es la solución",
+       true},
       {"TextoNuevoValorDeht", "Nuevo valor de ht (m)", "",
        "Altura de aplicación de la fuerza lateral sobre la superficie de falla, para la dovela "
        "seleccionada en la lista"}};
@@ -49,6 +53,12 @@ void Form17::Activar(Interfaz& ui) {
   nuevos_.assign(static_cast<std::size_t>(n > 0 ? n : 0) + 1, std::nullopt);
   hayNuevos_ = false;
   texto("TextoNuevoValorDeht").clear();
+  // The factor of the pass just made, in view while the user decides.
+  texto("TextoFactorDeSeguridad") =
+      p_.NúmeroIteraciones >= 1
+          ? Formato(p_.HistoriaIteraciones.FactorDeSeguridad.Leer(p_.NúmeroIteraciones),
+                    "#0.000000000")
+          : std::string();
   cerrada = false;
 
   if (ui.Pregunta("¿Considera que es la solución?")) {

@@ -188,10 +188,16 @@ void GeometríaDeDovelas(Proyecto& p) {
     if (EnLínea(T.X, T.Y, nt, d.XMedio[i], y)) d.YTalud[i] = y;
   }
 
-  d.YFreático.Redimensionar(nd);
-  d.BordeYFreático.Redimensionar(nb);
   const auto& F = p.CoordenadasFreático;
   const long nf = p.NúmeroPuntosFreático;
+  // A line of a single point is no line: neither column is written, they keep what they held.
+  if (nf == 1) {
+    d.YFreático.RedimensionarConservando(nd);
+    d.BordeYFreático.RedimensionarConservando(nb);
+  } else {
+    d.YFreático.Redimensionar(nd);
+    d.BordeYFreático.Redimensionar(nb);
+  }
   if (nf >= 2) {
     const double último = F.X[nf];
     // Below the last point the phreatic line follows the surface; above the first point nothing is

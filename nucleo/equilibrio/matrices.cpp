@@ -18,11 +18,12 @@ bool InvertirSinPivoteo(MatrizDensa& a) {
   const long n = a.Orden();
   MatrizDensa inv(n);
   for (long i = 1; i <= n; ++i) inv(i, i) = 1.0;
-  double producto = 1.0;
   for (long k = 1; k <= n; ++k) {
+    // The elimination stops at the first zero pivot. Each pivot is tested on its own: a running
+    // product of them overflows or underflows long before a sound matrix of a few hundred rows
+    // runs out of pivots.
     const double pivote = a(k, k);
-    producto *= pivote;
-    if (producto == 0.0) return false;
+    if (pivote == 0.0) return false;
     for (long j = 1; j <= n; ++j) {
       a(k, j) /= pivote;
       inv(k, j) /= pivote;

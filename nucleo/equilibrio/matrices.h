@@ -20,9 +20,9 @@ class MatrizDensa {
   std::vector<double> datos_;
 };
 
-// Inverts `a` in place by Gauss-Jordan on [a | I]. A running product starts at 1 and takes each
-// pivot; the moment it equals 0 the elimination stops and the function returns false, with `a`
-// left unusable. No row is ever exchanged: a zero on the diagonal is the user's to order.
+// Inverts `a` in place by Gauss-Jordan on [a | I]. The moment a pivot is zero (the product of the
+// pivots would be zero) the elimination stops and the function returns false, with `a` left
+// unusable; the pivots are never multiplied together. No row is ever exchanged: a zero on the diagonal is the user's to order.
 bool InvertirSinPivoteo(MatrizDensa& a);
 
 // a · v for one-based vectors (element 0 unused).

@@ -20,7 +20,7 @@ const char* const kPreguntaPresiones =
 
 // Excess pore pressure of slice i from the parameter B of the fills above its base, less what
 // consolidation has dissipated during construction.
-double Exceso(const Proyecto& p, long i, double hMáxima, const std::vector<double>& cima) {
+double Exceso(const Proyecto& p, long i, const std::vector<double>& cima, const std::vector<double>& pie) {
   const auto& d = p.TablaDovelas;
   const auto& E = p.Estrato;
   const int base = EstratoDeBase(p, i);
@@ -36,17 +36,22 @@ double Exceso(const Proyecto& p, long i, double hMáxima, const std::vector<doub
       if (s == 1 && yf > yt && !p.DesembalseRápido) arrastre += yf - yt;
     }
     const double cv = E.CoeficienteConsolidaciónVertical.Leer(s);
+    const double construcción = E.TiempoDeConstrucción.Leer(s);
     if (cv == 0) {
       yc = ys;
     } else if (cv > 0 && yp > ys) {
       // Effective time: the construction time of the stratum in proportion to the height already
-      // built over the base, the column from the top of the stratum down to the base of the slice
-      // over the highest point of that top. For the first stratum the top is the surface and its
-      // highest point HMáxima: T = t·(YTalud - YBase) / HMáxima. For a lower stratum the top is
-      // the line of the stratum above and its highest point the crest of that line (CimaEstrato).
-      const double cimaSuperior = s == 1 ? hMáxima : cima[static_cast<std::size_t>(s - 1)];
-      const double tiempo = Div(E.TiempoDeConstrucción.Leer(s) * (yp - yb), cimaSuperior,
-                                "el tiempo efectivo de consolidación");
+      // built over the base. Heights are thicknesses, measured from the foot of the stratum (the
+      // lowest point of its lower line) up to its top, so that the datum of the section plays no
+      // part: T = t·(top at the slice - YBase) / (crest of the top - foot). For the first stratum
+      // the top is the surface and its crest HMáxima: with the foot at y = 0 this is
+      // t·(YTalud - YBase) / HMáxima. A stratum built in no time dissipates nothing.
+      double tiempo = 0;
+      if (construcción != 0) {
+        const std::size_t k = static_cast<std::size_t>(s);
+        tiempo = Div(construcción * (yp - yb), cima[k - 1] - pie[k],
+                     "el tiempo efectivo de consolidación");
+      }
       double h = yc - ys;
       if (E.CoeficienteConsolidaciónVertical.Leer(s + 1) == 0) h = (yc - ys) / 2;
       tv = Div(3153.6 * cv * (tiempo / 24), h * h, "el factor tiempo de consolidación");
@@ -104,12 +109,16 @@ void PresiónYPesoEnDovelas(Proyecto& p, Interfaz& ui) {
   }
   if (estimar) d.PresiónPoros.Redimensionar(nd);
 
-  double hMáxima = -100000000;
-  for (long k = 1; k <= p.NúmeroPuntosTalud; ++k) hMáxima = std::max(hMáxima, p.CoordenadasTalud.Y[k]);
-  std::vector<double> cima(static_cast<std::size_t>(p.NúmeroEstratos) + 1, -100000000);
-  for (int s = 1; s <= p.NúmeroEstratos; ++s)
-    for (long j = 1; j <= p.PuntosEstrato.Leer(s); ++j)
-      cima[static_cast<std::size_t>(s)] = std::max(cima[static_cast<std::size_t>(s)], p.YEstrato(s, j));
+  // Crest of each boundary (0: the surface, HMáxima) and foot of each stratum (lowest point of
+  // its lower line).
+  const std::size_t ne = static_cast<std::size_t>(std::max<int>(p.NúmeroEstratos, 0));
+  std::vector<double> cima(ne + 1, -100000000), pie(ne + 1, 100000000);
+  for (long k = 1; k <= p.NúmeroPuntosTalud; ++k) cima[0] = std::max(cima[0], p.CoordenadasTalud.Y[k]);
+  for (std::size_t s = 1; s <= ne; ++s)
+    for (long j = 1; j <= p.PuntosEstrato.Leer(static_cast<long>(s)); ++j) {
+      cima[s] = std::max(cima[s], p.YEstrato(static_cast<long>(s), j));
+      pie[s] = std::min(pie[s], p.YEstrato(static_cast<long>(s), j));
+    }
 
   const bool suelo = p.TipoDeMaterial != "R";
   for (long i = 1; i <= nd; ++i) {
@@ -121,7 +130,7 @@ void PresiónYPesoEnDovelas(Proyecto& p, Interfaz& ui) {
     const double yf = d.YFreático[i], yb = d.YBase[i], yt = d.YTalud[i];
     if (estimar) d.PresiónPoros[i] = yf > yb ? yf - yb : 0.0;
     if (yf > yt) d.AlturaAguaSobreTalud[i] = p.DesembalseRápido ? 0.0 : yf - yt;
-    const double exceso = suelo ? Exceso(p, i, hMáxima, cima) : 0.0;
+    const double exceso = suelo ? Exceso(p, i, cima, pie) : 0.0;
     if (yf > yb) d.PresiónPoros[i] += exceso;
     d.PresiónPorosMedia[i] = Div(e + exceso, d.Ancho[i], "la presión de poros media de una dovela");
     d.PesoUnitarioMedio[i] = PesoMedio(p, i);

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "equilibrio/puertas.h"
+#include "pantallas/valores_posibles.h"
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
@@ -49,7 +50,6 @@ void Form18::Llenar() {
   cohesión_.assign(Z(n + 1), 0.0);
   fricción_.assign(Z(n + 1), 0.0);
   presión_.assign(Z(n + 1), 0.0);
-  cambiada_.assign(Z(n + 1), false);
   auto& l = lista(kLista);
   l.filas.clear();
   l.seleccionada = 0;
@@ -101,11 +101,13 @@ void Form18::Modificar(Interfaz& ui) {
     ui.Mensaje("Debe introducir un número para la presión de poros");
     return;
   }
+  if (!CohesiónYFricciónPosibles(ui, ANúmero(texto("TextoCambioCohesión")),
+                                 ANúmero(texto("TextoCambioFricción"))))
+    return;
   const std::size_t i = Z(l.seleccionada);
   cohesión_[i] = ANúmero(texto("TextoCambioCohesión"));
   fricción_[i] = ANúmero(texto("TextoCambioFricción"));
   presión_[i] = ANúmero(texto("TextoCambioPresiónPoros"));
-  cambiada_[i] = true;
   auto& f = l.filas[i - 1];
   f[1] = Formato(cohesión_[i], "#0.00");
   f[2] = Formato(fricción_[i], "#0.00");
@@ -118,15 +120,14 @@ void Form18::Aceptar(Interfaz& ui) {
     return;
   auto& d = p_.TablaDovelas;
   const long n = static_cast<long>(cohesión_.size()) - 1;
-  for (auto* c : {&d.CohesiónBase, &d.FricciónBase, &d.PresiónPoros, &d.TanFricciónBase})
+  // The three columns go back as they stand in the list, and nothing else: the tangent of the
+  // friction is rebuilt by the method that reads the letter of the instantaneous parameters.
+  for (auto* c : {&d.CohesiónBase, &d.FricciónBase, &d.PresiónPoros})
     if (c->Tamaño() < n) c->RedimensionarConservando(n);
-  const double π = 4 * std::atan(1.0);
   for (long i = 1; i <= n; ++i) {
     d.CohesiónBase[i] = cohesión_[Z(i)];
     d.FricciónBase[i] = fricción_[Z(i)];
     d.PresiónPoros[i] = presión_[Z(i)];
-    // A friction changed here must not stand beside the tangent of the old one.
-    if (cambiada_[Z(i)]) d.TanFricciónBase[i] = std::tan(π * fricción_[Z(i)] / 180);
   }
   p_.DatosGuardados = false;
   cambiosAceptados = true;

@@ -24,7 +24,6 @@ class Form18 : public Pantalla {
   void Llenar();
   Proyecto& p_;
   std::vector<double> cohesión_, fricción_, presión_;  // one-based
-  std::vector<bool> cambiada_;
 };
 
 // Menu command: opens Form18 when instantaneous parameters have been chosen.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "pantallas/valores_posibles.h"
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
@@ -165,6 +166,19 @@ void Form5::Modificar(Interfaz& ui) {
           : "El peso unitario saturado es mayor que el peso unitario húmedo. Observe bien los valores "
             "antes de salir de esta pantalla. ¿Es correcto el valor dado para peso unitario saturado?";
   if (!ui.Pregunta(confirmación)) return;
+  if (!ValoresPosiblesDeSuelo(ui, ANúmero(texto("TextoCohesión")), ANúmero(texto("TextoFricción")),
+                              húmedo, saturado))
+    return;
+  if (ANúmero(texto("TextoCoeficienteConsolidaciónVertical")) < 0) {
+    ui.Mensaje("El coeficiente de consolidación vertical no puede ser negativo: dé cero cuando el "
+               "estrato no consolida.",
+               kTítuloValoresImposibles);
+    return;
+  }
+  if (tiempo < 0) {
+    ui.Mensaje("El tiempo de construcción no puede ser negativo.", kTítuloValoresImposibles);
+    return;
+  }
 
   Fila& f = filas_[static_cast<std::size_t>(i - 1)];
   f.completa = true;

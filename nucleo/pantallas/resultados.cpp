@@ -33,14 +33,16 @@ ListaPantalla Lista(const std::string& nombre, const TablaDeTexto& t) {
   return l;
 }
 
-// The principal stresses come only from the variational method and the methods in rock.
+// The principal stresses come only from the methods in rock; the message names the method that
+// made the calculation at hand.
 bool PuertaPrincipales(const Proyecto& p, Interfaz& ui) {
   if (HayEsfuerzosPrincipales(p)) return true;
-  ui.Mensaje(
-      "El cálculo realizado no da los esfuerzos principales: los dan el método de Dov Leshchinsky "
-      "y los "
-      "métodos para rocas. Vaya al menú 'Equilibrio límite'.",
-      "Esfuerzos principales");
+  ui.Mensaje("Este cálculo, hecho por el método de " + NombreDelMétodo(p) +
+                 (p.TipoDeMaterial == "R" ? " en rocas" : " en suelos") +
+                 ", no da los esfuerzos principales. Los calculan los métodos para rocas "
+                 "(Leshchinsky - Hoek - Brown y Janbu en rocas); para los demás gráficos los "
+                 "resultados de este cálculo están disponibles.",
+             "Esfuerzos principales");
   return false;
 }
 

@@ -21,8 +21,8 @@ double FactorDeSeguridadFinal(const Proyecto& p) {
 bool HayResultados(const Proyecto& p) {
   const long n = NúmeroDeDovelas(p);
   if (n < 1) return false;
-  const double fs = FactorDeSeguridadFinal(p);
-  if (!std::isfinite(fs) || fs <= 0) return false;
+  // A finished calculation shows its results whatever its factor: zero or negative is a result.
+  if (p.NúmeroIteraciones < 1 || !std::isfinite(FactorDeSeguridadFinal(p))) return false;
   const auto& d = p.TablaDovelas;
   return d.XMedio.Tamaño() >= n && d.Ancho.Tamaño() >= n && d.YBase.Tamaño() >= n &&
          d.EsfuerzoNormalTotal.Tamaño() >= n && d.EsfuerzoNormalEfectivo.Tamaño() >= n &&

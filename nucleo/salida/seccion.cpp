@@ -173,30 +173,62 @@ double TamañoDeSección(const Proyecto& p) {
   return t > 0 ? t : 1.0;
 }
 
-bool CentroDeArcoDeFalla(const Proyecto& p, double& xc, double& yc, double& radio) {
-  if (!p.SuperficieCircular() || p.NúmeroPuntosFalla < 2) return false;
+ArcoDeFalla ArcoDeLaSuperficie(const Proyecto& p) {
+  ArcoDeFalla a;
+  if (!p.SuperficieCircular() || p.NúmeroPuntosFalla < 2) return a;
   const auto& pi = p.ParámetrosIniciales;
   const double x1 = p.CoordenadasFalla.X.Leer(1), y1 = p.CoordenadasFalla.Y.Leer(1);
   const double x2 = p.CoordenadasFalla.X.Leer(2), y2 = p.CoordenadasFalla.Y.Leer(2);
-  radio = pi.Radio;
-  if (pi.CentroX != 0 || pi.CentroY != 0) {
-    xc = pi.CentroX;
-    yc = pi.CentroY;
-    if (radio <= 0) radio = std::hypot(x1 - xc, y1 - yc);
-    return radio > 0;
+  a.radioDado = a.radio = pi.Radio;
+  a.cuerda = std::hypot(x1 - x2, y1 - y2);
+  // A centre given as the reference of moments is the one the calculation takes.
+  if (pi.ReferenciaMomentoY > 0) {
+    a.centroX = pi.ReferenciaMomentoX;
+    a.centroY = pi.ReferenciaMomentoY;
+    if (a.radio <= 0) a.radio = std::hypot(x1 - a.centroX, y1 - a.centroY);
+    a.hay = a.radio > 0;
+    return a;
   }
-  const double media = 0.5 * std::hypot(x2 - x1, y2 - y1);
-  if (media <= 0 || radio < media) return false;
-  const double d = std::sqrt(radio * radio - media * media);
-  // Unit normal to the chord; the centre of a slip circle stands above its chord.
-  double nx = -(y2 - y1) / (2 * media), ny = (x2 - x1) / (2 * media);
-  if (ny < 0) {
-    nx = -nx;
-    ny = -ny;
+  if (a.cuerda <= 0 || x1 == x2 || !(a.radio > 0 || a.cuerda > 0)) return a;
+  // Below half the chord no arc passes through both points: the constants screen raises such a
+  // radius in steps of 0.5 m before any calculation, and so does the drawing, saying so.
+  if (a.radio < a.cuerda / 2) {
+    a.radio = std::max(a.radio, 0.0);
+    while (a.radio < a.cuerda / 2) a.radio += 0.5;
+    a.elevado = true;
   }
-  xc = 0.5 * (x1 + x2) + d * nx;
-  yc = 0.5 * (y1 + y2) + d * ny;
-  return true;
+  // The centre of the calculation: from the lower point at the angle of the chord and of the arc;
+  // while it stands below the upper point the radius grows by 0.5 m.
+  const double beta = std::atan((y1 - y2) / (x1 - x2));
+  for (int paso = 0; paso < 200000; ++paso) {
+    const double c = a.cuerda / (2 * a.radio);
+    const double theta = c < 1 ? std::atan(c / std::sqrt(1 - c * c)) : kPi / 2;
+    const double gamma = theta - beta;
+    a.centroX = std::sin(gamma) * a.radio + x2;
+    a.centroY = std::cos(gamma) * a.radio + y2;
+    if (!(a.centroY < y1)) {
+      a.hay = std::isfinite(a.centroX) && std::isfinite(a.centroY);
+      return a;
+    }
+    a.radio += 0.5;
+  }
+  return a;
+}
+
+std::string AvisoDelArco(const Proyecto& p) {
+  const ArcoDeFalla a = ArcoDeLaSuperficie(p);
+  if (!a.hay || !a.elevado) return "";
+  return "El radio de " + Num(a.radioDado) + " m es menor que la mitad de la cuerda (" +
+         Num(a.cuerda / 2) + " m): el arco se dibuja con un radio de " + Num(a.radio) +
+         " m, como lo elevará la pantalla de parámetros de cálculo.";
+}
+
+bool CentroDeArcoDeFalla(const Proyecto& p, double& xc, double& yc, double& radio) {
+  const ArcoDeFalla a = ArcoDeLaSuperficie(p);
+  xc = a.centroX;
+  yc = a.centroY;
+  radio = a.radio;
+  return a.hay;
 }
 
 Figura FiguraSección(const Proyecto& p) {

@@ -2,6 +2,8 @@
 // slices, loads, crack with its water, centre and radius of an arc.
 #pragma once
 
+#include <string>
+
 #include "salida/figura.h"
 
 namespace lomaterra {
@@ -27,8 +29,17 @@ Figura FiguraSección(const Proyecto& p);
 // The extent of the section (largest of its width and height), 1 when there is nothing to draw.
 double TamañoDeSección(const Proyecto& p);
 
-// Centre of the circular surface: the stored centre when the calculation left one, else the centre
-// above the chord through the two points at the stored radius. False when there is no arc.
+// The arc of the circular surface as the slice stages take it: the centre of the moments when one
+// is given, else the centre the stages build from the lower point for the stored radius, so that
+// the arc passes through both points. A radius below half the chord is raised first (`elevado`).
+struct ArcoDeFalla {
+  bool hay = false, elevado = false;
+  double centroX = 0, centroY = 0, radio = 0, radioDado = 0, cuerda = 0;
+};
+ArcoDeFalla ArcoDeLaSuperficie(const Proyecto& p);
+// The line for the status bar when the drawing had to raise the radius; empty otherwise.
+std::string AvisoDelArco(const Proyecto& p);
+// The centre and radius of ArcoDeLaSuperficie; false when there is no arc.
 bool CentroDeArcoDeFalla(const Proyecto& p, double& xc, double& yc, double& radio);
 
 }  // namespace lomaterra

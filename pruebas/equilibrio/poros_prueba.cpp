@@ -97,16 +97,17 @@ TEST_F(RellenoSobreNatural, ConPresionesDelUsuarioLaPreguntaDecide) {
 }
 
 TEST_F(UnaDovela, ElGradoDeConsolidaciónPasaALaSegundaRamaSobre60) {
-  // One fill 10 m over the base, its line at -10; HMáxima 10, construction 12 months:
-  // T = 12·(10 - 0)/10 = 12; H = 10 - (-10) = 20, halved since no stratum with Cv follows: 10.
-  // Tv = 3153.6·Cv·(12/24)/100 = 15.768·Cv. Arrastre = 10·2.0 = 20, B = 0.6.
+  // One fill 10 m over the base, its line (its foot) at -10; HMáxima 10, construction 12 months:
+  // the fill stands 20 m over its foot, the column over the base is 10 m: T = 12·10/20 = 6;
+  // H = 10 - (-10) = 20, halved since no stratum with Cv follows: 10.
+  // Tv = 3153.6·Cv·(6/24)/100 = 7.884·Cv. Arrastre = 10·2.0 = 20, B = 0.6.
   struct Caso {
     double cv, u;
   };
-  const double tv1 = 15.768 * 0.01, tv2 = 15.768 * 0.05;
+  const double tv1 = 7.884 * 0.01, tv2 = 7.884 * 0.05;
   const Caso casos[] = {
-      {0.01, std::sqrt(4 * tv1 / 3.1415) * 100},               // 44.8: first branch
-      {0.05, 100 - std::pow(10.0, (1.781 - tv2) / 0.933)},   // √ form gives 100.2: second branch
+      {0.01, std::sqrt(4 * tv1 / 3.1415) * 100},               // 31.7: first branch
+      {0.05, 100 - std::pow(10.0, (1.781 - tv2) / 0.933)},   // √ form gives 70.9: second branch
   };
   for (const Caso& c : casos) {
     Dovela(0, 10, 5, 5, 5);
@@ -124,16 +125,16 @@ TEST_F(UnaDovela, ElGradoDeConsolidaciónPasaALaSegundaRamaSobre60) {
 TEST_F(UnaDovela, ElTiempoEfectivoDeUnEstratoInferiorSeMideDesdeSuTecho) {
   // Fill 1 (Cv 0) from the surface 10 down to 6, fill 2 (Cv 0.01, 24 months) down to -10, base
   // at 0 in fill 2. Arrastre = 4·2.0 + 6·1.9 = 19.4. Fill 1 moves the top of the compressible
-  // layer to 6. For fill 2: T = 24·(6 - 0)/6 (the top of the stratum is line 1, whose crest is 6)
-  // = 24; H = (6 - (-10))/2 = 8; Tv = 3153.6·0.01·1/64.
+  // layer to 6. For fill 2: the top of the stratum is line 1, whose crest is 6, its foot -10:
+  // T = 24·(6 - 0)/(6 - (-10)) = 9; H = (6 - (-10))/2 = 8; Tv = 3153.6·0.01·(9/24)/64.
   Dovela(0, 10, 8, 8, 8);
   Estrato(6, {.húmedo = 2.0, .saturado = 2.0, .tipo = 1, .b = 0.4});
   Estrato(-10, {.húmedo = 1.9, .saturado = 1.9, .tipo = 1, .b = 0.7, .cv = 0.01, .tiempo = 24});
   InterfazGuionada ui;
   PresiónYPesoEnDovelas(p, ui);
-  const double tv = 31.536 / 64;
-  // √(4·Tv/3.1415)·100 = 79.2 is above 60: the second branch.
-  const double u = 100 - std::pow(10.0, (1.781 - tv) / 0.933);
+  const double tv = 31.536 * 0.375 / 64;
+  // √(4·Tv/3.1415)·100 = 48.5 is below 60: the first branch.
+  const double u = std::sqrt(4 * tv / 3.1415) * 100;
   const double exceso = 19.4 * 0.7 - 19.4 * u / 100;
   EXPECT_NEAR(p.TablaDovelas.PresiónPoros[1], 8 + exceso, 1e-9);
 }

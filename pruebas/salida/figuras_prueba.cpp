@@ -122,9 +122,18 @@ TEST_F(Figuras, ElArcoCircularPasaPorSusPuntosConElCentroSobreLaCuerda) {
   bool rótulo = false;
   for (const auto& t : f.rótulos) rótulo |= t.texto == "R = 15.00 m";
   EXPECT_TRUE(rótulo);
-  // A radius shorter than half the chord gives no arc: the points are joined straight.
+  // A stored centre that is not on this circle (the constants screen keeps its own) is not drawn.
+  p.ParámetrosIniciales.CentroX = 3, p.ParámetrosIniciales.CentroY = 30;
+  ASSERT_TRUE(CentroDeArcoDeFalla(p, xc, yc, r));
+  EXPECT_NEAR(xc, 10 - 2 * std::sqrt(5.0), 1e-9);
+  // A radius shorter than half the chord (√125 = 11.18) is raised by 0.5 m steps to 11.5, and
+  // the status line says so.
   p.ParámetrosIniciales.Radio = 5;
-  EXPECT_FALSE(CentroDeArcoDeFalla(p, xc, yc, r));
+  ASSERT_TRUE(CentroDeArcoDeFalla(p, xc, yc, r));
+  EXPECT_DOUBLE_EQ(r, 11.5);
+  EXPECT_NEAR(std::hypot(20 - xc, 10 - yc), 11.5, 1e-9);
+  EXPECT_NEAR(std::hypot(xc, yc), 11.5, 1e-9);
+  EXPECT_NE(AvisoDelArco(p).find("menor que la mitad de la cuerda"), std::string::npos);
 }
 
 struct CasoGráfico {

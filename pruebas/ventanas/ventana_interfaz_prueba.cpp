@@ -75,7 +75,7 @@ TEST_F(InterfazPrueba, UnaPreguntaRespondeSíONoSegúnElBotón) {
   for (const auto& [botón, esperado] : {std::pair{"BotónSí", true}, std::pair{"BotónNo", false}}) {
     const QString nombre = QString::fromUtf8(botón);
     QTimer::singleShot(0, [nombre] {
-      if (auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+      if (auto* caja = qobject_cast<CajaDeMensaje*>(QApplication::activeModalWidget()))
         if (auto* b = caja->findChild<QPushButton*>(nombre)) b->click();
     });
     EXPECT_EQ(ui.Pregunta("¿Es correcto?", "Pregunta"), esperado) << botón;

@@ -2,6 +2,8 @@
 // its parent, with its caption and control name, enabled only when it has a command.
 #include <gtest/gtest.h>
 
+#include <QSet>
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -72,10 +74,18 @@ TEST_F(MenúsPrueba, LaBarraYAlgunosTextosSonLosDelPrograma) {
                                              "&Coordenadas",
                                              "&Parámatros_y_Cargas",
                                              "&Equilibrio límite",
-                                             "&Presentación del cálculo de esfuerzos",
-                                             "&Elementos finitos",
+                                             "P&resentación del cálculo de esfuerzos",
+                                             "E&lementos finitos",
                                              "A&yuda"};
   EXPECT_EQ(barra, esperada);
+  // Alt and a letter opens one menu of the bar only.
+  QSet<QChar> letras;
+  for (QAction* a : ventana.menuBar()->actions()) {
+    const int y = a->text().indexOf('&');
+    ASSERT_GE(y, 0) << S(a->text());
+    EXPECT_FALSE(letras.contains(a->text().at(y + 1).toLower())) << S(a->text());
+    letras.insert(a->text().at(y + 1).toLower());
+  }
   struct Caso {
     const char* nombre;
     const char* texto;

@@ -264,7 +264,7 @@ TEST_F(VistaPrueba, LaPantallaSeVeDetrásDeLaPreguntaDeSuApertura) {
   bool vistaDetrás = false;
   QString valorDetrás;
   QTimer::singleShot(0, [&] {
-    auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    auto* caja = qobject_cast<CajaDeMensaje*>(QApplication::activeModalWidget());
     if (!caja) return;
     if (auto* vista = qobject_cast<QDialog*>(caja->parentWidget())) {
       vistaDetrás = vista->isVisible() && vista->objectName() == "FormPregunta";
