@@ -21,7 +21,9 @@
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 #include "resumen.h"
+#include "resumen_elementos.h"
 #include "salida/graficos.h"
+#include "salida/malla_resultados.h"
 #ifdef LOMATERRA_DIBUJO
 #include "salida_lote.h"
 #endif
@@ -110,9 +112,11 @@ std::string ComprobarSalidas(const Opciones& o) {
   for (const auto& [nombre, archivo] : o.figuras) {
     bool conocida = false;
     for (const auto& n : NombresDeGráficos()) conocida |= n == nombre;
+    conocida |= EsFiguraDeMalla(nombre);
     if (!conocida) {
       std::string r = "Figura desconocida: " + nombre + ". Las figuras son:";
       for (const auto& n : NombresDeGráficos()) r += " " + n;
+      for (const auto& n : NombresDeFigurasDeMalla()) r += " " + n;
       return r + ".";
     }
   }
@@ -241,7 +245,8 @@ int Correr(const std::vector<std::string>& argumentos) {
   std::cout.flush();
 
   if (o.json) {
-    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen};
+    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, ""};
+    informe.elementos = ElementosComoJson(p);
     if (!EscribirTexto(*o.json, InformeComoJson(informe))) {
       std::cerr << "lomaterra-lote: no se pudo escribir \"" << *o.json << "\".\n";
       estado = kFallo;

@@ -34,6 +34,7 @@ struct InformeLote {
   std::vector<std::string> transcripción;  // the lines as printed
   bool fallo = false;                      // an unforeseen fault ended a command
   Resumen resumen;
+  std::string elementos;  // the finite-element results as a JSON object, empty when none
 };
 
 // The JSON text: numbers at full precision, null where there is no number.

@@ -19,6 +19,11 @@
 #include "pantallas/malla.h"
 #include "elementos/refinamiento.h"
 #include "pantallas/resultados.h"
+#include "pantallas/resultados_esfuerzos.h"
+#include "elementos/plastico.h"
+#include "elementos/seguridad_esfuerzos.h"
+#include "elementos/viscoplastico.h"
+#include "salida/malla_resultados.h"
 
 namespace lomaterra {
 
@@ -73,6 +78,13 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["GráficoGeometría"] = GráficoGeometría;
   a["ImprimirInformaciónDadaAlPrograma"] = ImprimirInformaciónDadaAlPrograma;
   a["ImprimirResultadosAnálisisMétodosEquilibrioLímites"] = ImprimirResultadosAnálisisMétodosEquilibrioLímites;
+  a["CálculoEsfuerzosComportamientoViscoplástico"] = [](Proyecto& p, Interfaz& ui) { CálculoEsfuerzosComportamientoViscoplástico(p, ui); };
+  a["CálculoEsfuerzosComportamientoPlástico"] = [](Proyecto& p, Interfaz& ui) { CálculoEsfuerzosComportamientoPlástico(p, ui); };
+  a["FactorDeSeguridadDeslizamientoCálculoViscoplástico"] = FactorDeSeguridadDeslizamientoCálculoViscoplástico;
+  a["ResultadosDeEsfuerzosDesplazamientosElásticosViscoplásticos"] = ResultadosDeEsfuerzosDesplazamientosElásticosViscoplásticos;
+  a["ResultadosDeEsfuerzosDesplazamientosElásticosPásticos"] = ResultadosDeEsfuerzosDesplazamientosElásticosPásticos;
+  for (const std::string& n : NombresDeFigurasDeMalla())
+    a[n] = [n](Proyecto& p, Interfaz& ui) { MostrarFiguraDeMalla(p, ui, n); };
 }
 
 }  // namespace lomaterra
