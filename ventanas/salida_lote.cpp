@@ -36,6 +36,15 @@ void PrepararDibujoSinVentana() {
 }
 
 bool EscribirInformeDeResultados(const Proyecto& p, const std::string& ruta, std::string& error) {
+  if (p.TipoDeAnálisis == "F" && p.CálculoHecho && p.Malla.NúmeroDeIteración >= 1) {
+    PrepararDibujoSinVentana();
+    QString e;
+    if (!EscribirInformePDF(InformeElementosFinitos(p), QString::fromStdString(ruta), &e)) {
+      error = e.toStdString();
+      return false;
+    }
+    return true;
+  }
   if (!HayResultados(p)) {
     error = "No hay resultados de un cálculo por equilibrio límite para el informe " + ruta + ".";
     return false;

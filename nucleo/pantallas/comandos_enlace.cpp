@@ -83,6 +83,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["FactorDeSeguridadDeslizamientoCálculoViscoplástico"] = FactorDeSeguridadDeslizamientoCálculoViscoplástico;
   a["ResultadosDeEsfuerzosDesplazamientosElásticosViscoplásticos"] = ResultadosDeEsfuerzosDesplazamientosElásticosViscoplásticos;
   a["ResultadosDeEsfuerzosDesplazamientosElásticosPásticos"] = ResultadosDeEsfuerzosDesplazamientosElásticosPásticos;
+  a["ImprimirResultadosAnálisisElementosFinitosViscoplásticoPLástico"] = ImprimirResultadosAnálisisElementosFinitosViscoplásticoPLástico;
   for (const std::string& n : NombresDeFigurasDeMalla())
     a[n] = [n](Proyecto& p, Interfaz& ui) { MostrarFiguraDeMalla(p, ui, n); };
 }

@@ -38,6 +38,11 @@ void ResultadosDeEsfuerzosDesplazamientosElásticosPásticos(Proyecto& p, Interf
   ui.Abrir(f);
 }
 
+void ImprimirResultadosAnálisisElementosFinitosViscoplásticoPLástico(Proyecto& p, Interfaz& ui) {
+  if (!HayEsfuerzos(p, ui)) return;
+  ui.Imprimir(InformeElementosFinitos(p));
+}
+
 void MostrarFiguraDeMalla(Proyecto& p, Interfaz& ui, const std::string& nombre) {
   if (FiguraDeMallaNecesitaResultados(nombre)) {
     if (!HayEsfuerzos(p, ui)) return;

@@ -11,6 +11,7 @@ class Interfaz;
 
 void ResultadosDeEsfuerzosDesplazamientosElásticosViscoplásticos(Proyecto& p, Interfaz& ui);
 void ResultadosDeEsfuerzosDesplazamientosElásticosPásticos(Proyecto& p, Interfaz& ui);
+void ImprimirResultadosAnálisisElementosFinitosViscoplásticoPLástico(Proyecto& p, Interfaz& ui);
 // Shows the mesh figure of that control name after the gate of its data.
 void MostrarFiguraDeMalla(Proyecto& p, Interfaz& ui, const std::string& nombre);
 

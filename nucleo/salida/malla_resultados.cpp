@@ -347,3 +347,53 @@ Figura FiguraDeMalla(const Proyecto& p, const std::string& nombre, long paso, do
 }
 
 }  // namespace lomaterra
+
+namespace lomaterra {
+
+Informe InformeElementosFinitos(const Proyecto& p) {
+  const MallaElementos& m = p.Malla;
+  Informe inf;
+  inf.título = "Resultados del análisis de esfuerzos por elementos finitos";
+  const InformaciónDelProyecto& ip = p.InformaciónProyecto;
+  inf.encabezado = {"Progresiva " + ip.ProgresivaInicial + " a " + ip.ProgresivaFinal, ip.FechaProyecto,
+                    ip.IngResponsable, ip.Empresa};
+  inf.Título(inf.título);
+  const long n = m.NúmeroDeIteración;
+  inf.Párrafo(std::string(n == 2 && !m.CálculoViscoplásticoHecho ? "Comportamiento de plasticidad perfecta"
+                                                                  : "Comportamiento elástico-viscoplástico") +
+              ". Malla de " + std::to_string(m.NúmeroDeNodos) + " nodos y " + std::to_string(m.NúmeroDeElementos) +
+              " elementos; " + std::to_string(n) + " pasos.");
+  inf.Párrafo("Función de fluencia máxima " + Formato(m.FluenciaMáxima, "#0.0000") + " (elemento " +
+              std::to_string(m.ElementoFluenciaMáxima) + ", punto " + std::to_string(m.PuntoFluenciaMáxima) +
+              "); mínima " + Formato(m.FluenciaMínima, "#0.0000") + " (elemento " + std::to_string(m.ElementoFluenciaMínima) +
+              ", punto " + std::to_string(m.PuntoFluenciaMínima) + ").");
+  if (m.FSViscoplástico != 0)
+    inf.Párrafo("Factor de seguridad con los esfuerzos del último paso " + Formato(m.FSViscoplástico, "#0.000") +
+                "; con los esfuerzos elásticos " + Formato(m.FSElástico, "#0.000") + ".");
+  for (long i : {1L, n}) {
+    if (i < 1) continue;
+    TablaDeTexto t;
+    t.título = "Esfuerzos por elemento (ton/m²), paso " + std::to_string(i);
+    t.columnas = {"Elemento", "Sigma x", "Sigma y", "Tau xy", "Sigma 1", "Sigma 3", "F"};
+    for (long e = 1; e <= m.NúmeroDeElementos; ++e)
+      t.filas.push_back({std::to_string(e), Formato(m.EsfuerzoX.Leer(e, i), "#0.00"), Formato(m.EsfuerzoY.Leer(e, i), "#0.00"),
+                         Formato(m.EsfuerzoXY.Leer(e, i), "#0.00"), Formato(m.EsfuerzoPrincipalMayor.Leer(e, i), "#0.00"),
+                         Formato(m.EsfuerzoPrincipalMenor.Leer(e, i), "#0.00"), Formato(ValorElemento(p, e, i, 6), "#0.00")});
+    inf.AñadirTabla(t);
+    TablaDeTexto d;
+    d.título = "Desplazamientos por nodo (cm), paso " + std::to_string(i);
+    d.columnas = {"Nodo", "Desplazamiento x", "Desplazamiento y"};
+    for (long nodo = 1; nodo <= m.NúmeroDeNodos; ++nodo)
+      d.filas.push_back({std::to_string(nodo), Formato(m.Desplazamientos.Leer(2 * nodo - 1, i), "#0.0000"),
+                         Formato(m.Desplazamientos.Leer(2 * nodo, i), "#0.0000")});
+    inf.AñadirTabla(d);
+    if (n == 1) break;
+  }
+  for (const char* nombre : {"EsfuerzosSigmaYVsElementos", "FunciónFluenciaVsElementos", "MallaDeformada", "ElementosFluyendo"}) {
+    inf.SaltoDePágina();
+    inf.AñadirFigura(FiguraDeMalla(p, nombre));
+  }
+  return inf;
+}
+
+}  // namespace lomaterra

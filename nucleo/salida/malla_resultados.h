@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "salida/figura.h"
+#include "salida/informe.h"
 
 namespace lomaterra {
 
@@ -35,5 +36,9 @@ std::vector<PuntoFigura> NodosDeformados(const Proyecto& p, long paso, double au
 
 // The figure by name, from the last step (paso 0) or the step given; aumento 0 means automatic.
 Figura FiguraDeMalla(const Proyecto& p, const std::string& nombre, long paso = 0, double aumento = 0);
+
+// The printed report of the stress analysis: data of the run, extremes, factors of safety, the
+// tables of the first and the last step and the main figures.
+Informe InformeElementosFinitos(const Proyecto& p);
 
 }  // namespace lomaterra
