@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "busqueda_lote.h"
 #include "opciones.h"
 #include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
@@ -194,11 +195,17 @@ int Correr(const std::vector<std::string>& argumentos) {
   p.DatosGuardados = false;
 
   bool fallo = false;
+  std::string búsqueda;
   for (const auto& c : o.comandos) {
     const EntradaMenú* e = BuscarEntrada(árbol, c);
     FinDeComando fin = FinDeComando::Normal;
     try {
-      fin = EjecutarComando(e->acción, p, ui);
+      if (c == kComandoBúsqueda) {  // the search runs with its options, not through its screen
+        const std::string error = CorrerBúsqueda(p, ui, o.búsqueda, búsqueda);
+        if (!error.empty()) return UsoIncorrecto(error + ".");
+      } else {
+        fin = EjecutarComando(e->acción, p, ui);
+      }
     } catch (const std::exception& ex) {
       ui.Emitir();
       std::cerr << "lomaterra-lote: el comando " << c << " terminó por una falla no prevista: " << ex.what() << "\n";
@@ -245,7 +252,7 @@ int Correr(const std::vector<std::string>& argumentos) {
   std::cout.flush();
 
   if (o.json) {
-    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, ""};
+    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, ""};
     informe.elementos = ElementosComoJson(p);
     if (!EscribirTexto(*o.json, InformeComoJson(informe))) {
       std::cerr << "lomaterra-lote: no se pudo escribir \"" << *o.json << "\".\n";

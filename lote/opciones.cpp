@@ -20,6 +20,11 @@ const char* const kUso =
     "  --figura NOMBRE=ARCHIVO.png|.svg\n"
     "                        dibuja una figura del menú Gráfico por su nombre de control (por\n"
     "                        ejemplo GráficoGeometría=seccion.png); puede darse varias veces\n"
+    "  --busqueda OPCIONES.json\n"
+    "                        opciones del comando BúsquedaCírculoCrítico: x1, y1, x2, y2,\n"
+    "                        divisionesX, divisionesY, radioMínimo, radioMáximo, pasoRadio,\n"
+    "                        cotasTangencia [..], dovelas, método \"Bishop\"|\"Janbu\",\n"
+    "                        xSalidaMínima, xSalidaMáxima, hilos, usar true|false\n"
     "  --ayuda               muestra este texto\n"
     "\n"
     "Estado de salida: 0 los comandos corrieron (digan lo que digan sus mensajes); 1 una falla\n"
@@ -68,6 +73,11 @@ const std::vector<OpciónConValor>& TablaOpciones() {
        [](const std::string& v, Opciones& o) -> std::string {
          if (v.size() != 1 || !SoloSN(v)) return "--por-defecto admite S o N, y se dio \"" + v + "\".";
          o.porDefecto = Mayúscula(v) == "S";
+         return "";
+       }},
+      {"--busqueda",
+       [](const std::string& v, Opciones& o) -> std::string {
+         o.búsqueda = v;
          return "";
        }},
       {"--json",

@@ -18,6 +18,7 @@ struct Opciones {
   std::optional<std::string> json;
   std::optional<std::string> guardar;
   std::optional<std::string> pdf;  // the results report
+  std::optional<std::string> búsqueda;  // options of the command BúsquedaCírculoCrítico (JSON)
   std::vector<std::pair<std::string, std::string>> figuras;  // (menu control name, .png or .svg file)
   bool ayuda = false;
 };

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <sstream>
 
+#include "equilibrio/referencia.h"
 #include "proyecto/compat.h"
 
 namespace lomaterra::lote {
@@ -86,6 +87,12 @@ Resumen ResumirProyecto(const Proyecto& p) {
     if (std::isfinite(m1)) r.Multiplicador1 = m1;
     if (std::isfinite(m2)) r.Multiplicador2 = m2;
   }
+  if (r.FactorDeSeguridad && r.NúmeroBordes > 1) {
+    const FactoresReferencia f = FactoresDeReferencia(p);
+    if (f.hay) r.FelleniusReferencia = f.fellenius;
+    if (f.hayBishop) r.BishopReferencia = f.bishop;
+    r.referencia = LíneasDeReferencia(f);
+  }
   r.sumas = {{"SumaTangenciales", p.SumaTangenciales},
              {"SumaNormalesTotales", p.SumaNormalesTotales},
              {"SumaNormalesEfectivos", p.SumaNormalesEfectivos},
@@ -109,6 +116,7 @@ std::string ResumenComoTexto(const Resumen& r) {
   s << "FactorDeSeguridad: " << (r.FactorDeSeguridad ? Completo(*r.FactorDeSeguridad) : "(sin cálculo)") << "\n";
   s << "Multiplicador1: " << (r.Multiplicador1 ? Completo(*r.Multiplicador1) : "(sin cálculo)") << "\n";
   s << "Multiplicador2: " << (r.Multiplicador2 ? Completo(*r.Multiplicador2) : "(sin cálculo)") << "\n";
+  for (const auto& línea : r.referencia) s << "Referencia: " << línea << "\n";
   s << "NúmeroIteraciones: " << r.NúmeroIteraciones << "\n";
   s << "NúmeroBordes: " << r.NúmeroBordes << "\n";
   for (const auto& [nombre, valor] : r.sumas) s << nombre << ": " << Completo(valor) << "\n";
@@ -139,9 +147,15 @@ std::string InformeComoJson(const InformeLote& informe) {
     s << (i ? "," : "") << "\n    " << TextoJson(informe.transcripción[i]);
   s << (informe.transcripción.empty() ? "" : "\n  ") << "],\n";
   s << "  \"fallo\": " << (informe.fallo ? "true" : "false") << ",\n";
+  if (!informe.búsqueda.empty()) s << "  \"Búsqueda\": " << informe.búsqueda << ",\n";
   s << "  \"FactorDeSeguridad\": " << (r.FactorDeSeguridad ? NúmeroJson(*r.FactorDeSeguridad) : "null") << ",\n";
   s << "  \"Multiplicador1\": " << (r.Multiplicador1 ? NúmeroJson(*r.Multiplicador1) : "null") << ",\n";
   s << "  \"Multiplicador2\": " << (r.Multiplicador2 ? NúmeroJson(*r.Multiplicador2) : "null") << ",\n";
+  s << "  \"FelleniusReferencia\": " << (r.FelleniusReferencia ? NúmeroJson(*r.FelleniusReferencia) : "null") << ",\n";
+  s << "  \"BishopReferencia\": " << (r.BishopReferencia ? NúmeroJson(*r.BishopReferencia) : "null") << ",\n";
+  s << "  \"NotasReferencia\": [";
+  for (std::size_t i = 0; i < r.referencia.size(); ++i) s << (i ? ", " : "") << TextoJson(r.referencia[i]);
+  s << "],\n";
   s << "  \"NúmeroIteraciones\": " << r.NúmeroIteraciones << ",\n";
   s << "  \"NúmeroBordes\": " << r.NúmeroBordes << ",\n";
   for (const auto& [nombre, valor] : r.sumas) s << "  " << TextoJson(nombre) << ": " << NúmeroJson(valor) << ",\n";

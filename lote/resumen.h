@@ -17,6 +17,10 @@ struct Resumen {
   std::optional<double> Multiplicador1, Multiplicador2;
   long NúmeroIteraciones = 0;
   long NúmeroBordes = 0;
+  // The reference figures on a single arc (Fellenius and Bishop with both sums as moments about
+  // the centre); `referencia` holds the lines shown to people, or the one that says why none.
+  std::optional<double> FelleniusReferencia, BishopReferencia;
+  std::vector<std::string> referencia;
   std::vector<std::pair<std::string, double>> sumas;
   std::vector<std::string> columnas;              // names of the slice columns
   std::vector<std::vector<double>> dovelas;       // one row a slice, in the order of `columnas`
@@ -34,6 +38,7 @@ struct InformeLote {
   std::vector<std::string> transcripción;  // the lines as printed
   bool fallo = false;                      // an unforeseen fault ended a command
   Resumen resumen;
+  std::string búsqueda;  // the JSON value of the search of the critical circle, when it ran
   std::string elementos;  // the finite-element results as a JSON object, empty when none
 };
 

@@ -86,6 +86,8 @@ class InterfazQt : public Interfaz {
   void HacerMostrarFigura(const Figura& figura) override;
   void HacerCopiarAlPortapapeles(const std::string& texto) override;
   void HacerImprimir(const Informe& informe) override;
+  // A progress box with Cancelar while a long run goes (progreso_qt.cpp).
+  bool HacerProgreso(double fracción, const std::string& texto) override;
 
   void FijarVentana(QWidget* ventana) { ventana_ = ventana; }
   // The project's current file, where the save dialog starts (empty: none yet).
@@ -122,6 +124,7 @@ class InterfazQt : public Interfaz {
   Interfaz* sustituto_ = nullptr;
   std::function<void(VistaPantalla&)> alMostrar_;
   QPointer<QDialog> ayuda_;
+  QPointer<QDialog> progreso_;  // the progress box of the run under way
   VistaPantalla* activando_ = nullptr;  // the view of the screen whose Activar is running  // one
                                         // help window, raised again when asked for again
 };

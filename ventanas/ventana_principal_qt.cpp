@@ -22,6 +22,7 @@
 
 #include "proyecto/compat.h"
 #include "proyecto/proyecto.h"
+#include "salida/factores.h"
 #include "vista_seccion.h"
 
 namespace lomaterra {
@@ -90,6 +91,10 @@ VentanaPrincipalQt::VentanaPrincipalQt(Proyecto& proyecto, std::vector<EntradaMe
   statusBar()->addWidget(líneaEstado_, 1);
   ui_.AlEstado([this](const QString& t) { líneaEstado_->setText(t); });
   ui_.AlNombreActual([this] { return Q(proyecto_.Ventana.NombreArchivo); });
+  etiquetaFactores_ = new QLabel(this);
+  etiquetaFactores_->setObjectName("EtiquetaFactores");
+  etiquetaFactores_->setTextFormat(Qt::PlainText);
+  statusBar()->addPermanentWidget(etiquetaFactores_);
 
   connect(textoProyecto_, &QPlainTextEdit::textChanged, this, [this] {
     if (refrescando_) return;
@@ -300,6 +305,7 @@ void VentanaPrincipalQt::Refrescar() {
     últimoEstado_ = v.TextoEstado;
     líneaEstado_->setText(Q(v.TextoEstado));
   }
+  etiquetaFactores_->setText(Q(LíneaDeFactores(proyecto_)));
   dibujo_->Actualizar();
   if (!dibujo_->Aviso().empty() && dibujo_->Aviso() != últimoAviso_)
     líneaEstado_->setText(Q(dibujo_->Aviso()));

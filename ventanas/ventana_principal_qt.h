@@ -79,6 +79,7 @@ class VentanaPrincipalQt : public QMainWindow {
   std::vector<QWidget*>
       entradaPanel_;  // boxes and buttons, open once the project information is given
   QLabel* líneaEstado_ = nullptr;
+  QLabel* etiquetaFactores_ = nullptr;  // the factor of the last calculation and its references
   VistaSección* dibujo_ = nullptr;
 };
 

@@ -3,14 +3,17 @@
 
 #include "equilibrio/bishop.h"
 #include "equilibrio/fellenius.h"
+#include "equilibrio/instantaneos.h"
 #include "equilibrio/janbu.h"
 #include "equilibrio/leshchinsky.h"
+#include "equilibrio/leshchinsky_rocas.h"
+#include "pantallas/busqueda.h"
 #include "pantallas/comandos_archivo.h"
 #include "pantallas/comandos_coordenadas.h"
 #include "equilibrio/constantes.h"
 #include "pantallas/constantes_elementos.h"
 #include "pantallas/form15.h"
-#include "pantallas/form18.h"
+#include "equilibrio/form18.h"
 #include "pantallas/form34.h"
 #include "pantallas/form5.h"
 #include "pantallas/form6.h"
@@ -18,6 +21,7 @@
 #include "pantallas/form8.h"
 #include "pantallas/malla.h"
 #include "elementos/refinamiento.h"
+#include "pantallas/estratos_roca.h"
 #include "pantallas/resultados.h"
 #include "pantallas/resultados_esfuerzos.h"
 #include "elementos/plastico.h"
@@ -45,6 +49,8 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MenúEliminarNivelFreático"] = MenúEliminarNivelFreático;
   a["MenúInformación"] = MenúInformación;
   a["CaracterísticasGeomecánicasSuelos"] = CaracterísticasGeomecánicasSuelos;
+  a["ParámetrosCaracterizaciónRocaSinLaboratorio"] = ParámetrosCaracterizaciónRocaSinLaboratorio;
+  a["ParámetrosDeCaracterizaciónRocaConLaboratorio"] = ParámetrosDeCaracterizaciónRocaConLaboratorio;
   a["MénuGeometríaEntrePuntosSuperficieFalla"] = MénuGeometríaEntrePuntosSuperficieFalla;
   a["CargasUniformes"] = CargasUniformes;
   a["CargasPuntuales"] = CargasPuntuales;
@@ -61,7 +67,11 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
+  a["MétodoJanbuEnRocas"] = MétodoJanbuEnRocas;
+  a["BúsquedaCírculoCrítico"] = BúsquedaCírculoCrítico;
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
+  a["CálculoParámetrosInstantáneos"] = CálculoParámetrosInstantáneos;
+  a["ProcesoIterativoEnRocas"] = ProcesoIterativoEnRocas;
   a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
   a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
   a["ResultadosCálculoRocas"] = ResultadosCálculoRocas;

@@ -1,6 +1,7 @@
 #include "pantallas/resultados.h"
 
 #include "equilibrio/puertas.h"
+#include "equilibrio/referencia.h"
 #include "pantallas/anclajes.h"
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"
@@ -70,6 +71,23 @@ void AbrirResultados(Proyecto& p, Interfaz& ui, bool roca) {
   ui.Abrir(pantalla);
 }
 
+// The two reference figures as read-only fields beside the method's own factor, or one field
+// that says why there are none.
+void AñadirCamposDeReferencia(std::vector<Campo>& campos, const FactoresReferencia& f) {
+  if (!f.hay) {
+    campos.push_back({"TextoFactoresReferencia", "Cifras de referencia", f.motivo, "", true});
+    return;
+  }
+  const std::string ayuda =
+      "Cifra aparte: momentos resistente y motor respecto del centro del arco; no cambia el "
+      "factor del método.";
+  campos.push_back({"TextoFelleniusReferencia", kRótuloFelleniusReferencia,
+                    Formato(f.fellenius, "#0.000"), ayuda, true});
+  campos.push_back({"TextoBishopReferencia", kRótuloBishopReferencia,
+                    f.hayBishop ? Formato(f.bishop, "#0.000") : "sin valor (" + f.motivoBishop + ")",
+                    f.notaBishop.empty() ? ayuda : f.notaBishop, true});
+}
+
 }  // namespace
 
 PantallaResultados::PantallaResultados(Proyecto& p, bool roca) : p_(p), roca_(roca) {
@@ -100,10 +118,13 @@ void PantallaResultados::Activar(Interfaz&) {
       {"TextoFactorDeSeguridad", "Factor de seguridad",
        Formato(FactorDeSeguridadFinal(p_), "#0.000"), "Factor de seguridad de la última iteración",
        true},
+  };
+  AñadirCamposDeReferencia(campos, FactoresDeReferencia(p_));
+  campos.insert(campos.end(), {
       {"TextoNúmeroDovelas", "Número de dovelas", std::to_string(NúmeroDeDovelas(p_)), "", true},
       {"TextoNúmeroIteraciones", "Número de iteraciones", std::to_string(p_.NúmeroIteraciones), "",
        true},
-  };
+  });
   if (a.SeparaciónAnclajesActivo > 0 || a.SeparaciónAnclajesPasivo > 0) {
     campos.push_back({"TextoSeparaciónAnclajesActivo", "Separación de anclajes activos (m)",
                       Formato(a.SeparaciónAnclajesActivo, "#0.00"),
@@ -122,6 +143,9 @@ std::string PantallaResultados::TextoParaCopiar() const {
   r += TextoTabulado(TablaResultadosDovelas(p_));
   r += "\n";
   r += TextoTabulado(TablaSumas(p_));
+  // The reference figures on a single arc come last, apart from the method's own results.
+  r += "\n";
+  for (const auto& línea : LíneasDeReferencia(FactoresDeReferencia(p_))) r += línea + "\n";
   return r;
 }
 

@@ -66,6 +66,7 @@ const Fila kÁrbol[] = {
     {"ProcesoIterativoEnRocas", "&Dov Leshchinsky - Ching and Hoek - Brow (m,s)", "CálculoEnRocas", false},
     {"MétodoJanbuEnRocas", "&Método de Janbu aplicado a rocas ", "CálculoEnRocas", false},
     {"CálculoParámetrosInstantáneos", "&Suelos o Rocas  (parámetros instantáneos c,fi)", "ArchivoCalcular", false},
+    {"BúsquedaCírculoCrítico", "&Búsqueda del círculo crítico...", "MenuEquilibrioLimite", false},
 
     {"MenúPresentación", "P&resentación del cálculo de esfuerzos", "", true},
     {"ResultadosCálculoRocas", "&Resultados cálculo  para rocas", "MenúPresentación", false},

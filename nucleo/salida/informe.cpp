@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "equilibrio/referencia.h"
 #include "proyecto/compat.h"
 #include "proyecto/proyecto.h"
 #include "salida/graficos.h"
@@ -499,6 +500,11 @@ Informe InformeDeResultados(const Proyecto& p) {
                ", kv = " + N(p.ParámetrosIniciales.CoeficienteSísmicoVertical, "#0.000") + ".";
   inf.Párrafo(resumen);
   inf.Subtítulo("Factor de seguridad: " + N(FactorDeSeguridadFinal(p), "#0.000"));
+  {
+    std::string referencia = "Cifras aparte, de referencia:";
+    for (const auto& línea : LíneasDeReferencia(FactoresDeReferencia(p))) referencia += " " + línea;
+    inf.Párrafo(referencia);
+  }
   inf.AñadirTabla(TablaHistoriaIteraciones(p));
   inf.Subtítulo("Resultados en las dovelas");
   for (const auto& parte : Partes(TablaResultadosDovelas(p), 8)) inf.AñadirTabla(parte);

@@ -20,6 +20,8 @@
 #include <set>
 #include <string>
 
+#include "pantallas/busqueda.h"
+#include "salida/busqueda_figura.h"
 #include "ayuda_qt.h"
 #include "icono.h"
 #include "interfaz_qt.h"
@@ -374,6 +376,23 @@ int main(int argc, char** argv) {
       QDialog* diálogo = CrearDiálogoFigura(nullptr, FiguraGráfico(p, nombre));
       Guardar(*diálogo, std::string("diálogo_") + nombre);
       delete diálogo;
+    }
+  }
+  {
+    // The search of the critical circle on the sample after "Buscar", and its drawing.
+    Proyecto p = muestra;
+    InterfazGuionada mudo("N");
+    PantallaBúsqueda pantalla(p);
+    pantalla.Activar(mudo);
+    pantalla.Buscar(mudo);
+    VistaPantalla vista(pantalla, mudo);
+    Guardar(vista, "búsqueda_tras_buscar");
+    if (pantalla.Resultado().hay) {
+      QDialog* diálogo = CrearDiálogoFigura(nullptr, FiguraBúsqueda(p, pantalla.Resultado(), false));
+      Guardar(*diálogo, "diálogo_BúsquedaCírculoCrítico");
+      delete diálogo;
+    } else {
+      ++fallos;
     }
   }
   {
