@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "busqueda_lote.h"
+#include "malla_json.h"
 #include "opciones.h"
 #include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
@@ -251,6 +252,11 @@ int Correr(const std::vector<std::string>& argumentos) {
   std::cout << ResumenComoTexto(resumen);
   std::cout.flush();
 
+  for (const auto& [ruta, rigidez] : {std::pair{o.mallaJson, false}, std::pair{o.rigidezJson, true}})
+    if (ruta && !EscribirTexto(*ruta, MallaComoJson(p, ui, rigidez))) {
+      std::cerr << "lomaterra-lote: no se pudo escribir \"" << *ruta << "\".\n";
+      estado = kFallo;
+    }
   if (o.json) {
     InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, ""};
     informe.elementos = ElementosComoJson(p);

@@ -16,6 +16,9 @@ const char* const kUso =
     "  --por-defecto S|N     respuesta cuando se acaban las letras (N si no se da)\n"
     "  --json SALIDA.json    escribe la transcripción y el resumen en JSON\n"
     "  --guardar OTRO.cod    guarda el proyecto al terminar los comandos\n"
+    "  --malla-json M.json   escribe las tablas de la malla de elementos finitos en JSON\n"
+    "  --rigidez-json R.json lo mismo, con la diagonal de la matriz de rigidez y el vector de\n"
+    "                        cargas armados por Elementotriangular\n"
     "  --pdf INFORME.pdf     escribe el informe de resultados del cálculo por equilibrio límite\n"
     "  --figura NOMBRE=ARCHIVO.png|.svg\n"
     "                        dibuja una figura del menú Gráfico por su nombre de control (por\n"
@@ -83,6 +86,16 @@ const std::vector<OpciónConValor>& TablaOpciones() {
       {"--json",
        [](const std::string& v, Opciones& o) -> std::string {
          o.json = v;
+         return "";
+       }},
+      {"--malla-json",
+       [](const std::string& v, Opciones& o) -> std::string {
+         o.mallaJson = v;
+         return "";
+       }},
+      {"--rigidez-json",
+       [](const std::string& v, Opciones& o) -> std::string {
+         o.rigidezJson = v;
          return "";
        }},
       {"--guardar",

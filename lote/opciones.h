@@ -16,6 +16,8 @@ struct Opciones {
   std::string respuestas;  // "SNSN...": one letter a question, in order
   bool porDefecto = false; // the answer when the letters run out
   std::optional<std::string> json;
+  std::optional<std::string> mallaJson;  // the mesh tables
+  std::optional<std::string> rigidezJson;  // the mesh tables, the stiffness diagonal and the loads
   std::optional<std::string> guardar;
   std::optional<std::string> pdf;  // the results report
   std::optional<std::string> búsqueda;  // options of the command BúsquedaCírculoCrítico (JSON)

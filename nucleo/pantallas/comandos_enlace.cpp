@@ -64,6 +64,8 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["CargasUniformesSobreElementos"] = CargasUniformesSobreElementos;
   a["IncrementeNúmeroDeElementos"] = IncrementeNúmeroDeElementos;
   a["PresionesDePoros"] = PresionesDePoros;
+  a["GráficoGeometríaTaludEstratos"] = GráficoGeometríaTaludEstratos;
+  a["ElementoConSuNúmeroCorrespondiente"] = GráficoGeometríaTaludEstratos;
   a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;

@@ -9,6 +9,7 @@
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
 #include "proyecto/secuencial.h"
+#include "salida/malla.h"
 
 namespace lomaterra {
 
@@ -39,6 +40,9 @@ bool ExisteNodo(const Proyecto& p, long n) {
     if (t.NúmeroDeNodo.Leer(f) == n) return true;
   return false;
 }
+
+// A value for a list: whole numbers written out in full, others in their shortest form.
+std::string Valor(double v) { return v == std::floor(v) && std::abs(v) < 1e15 ? Formato(v, "#") : NúmeroATexto(v); }
 
 std::string SíNo(double código) { return código == 1 ? "SI" : código == 2 ? "NO" : ""; }
 
@@ -684,7 +688,7 @@ void PantallaRestricciones::Mostrar() {
   auto& l = lista("ListaNodosConRestricción");
   l.filas.clear();
   for (const Fila& f : filas_)
-    l.filas.push_back({Formato(f.nodo, "#"), f.rx, f.ry, f.rz, NúmeroATexto(f.kx), NúmeroATexto(f.ky), NúmeroATexto(f.kz)});
+    l.filas.push_back({Formato(f.nodo, "#"), f.rx, f.ry, f.rz, Valor(f.kx), Valor(f.ky), Valor(f.kz)});
   if (!Seleccionada(l)) l.seleccionada = 0;
 }
 
@@ -696,9 +700,9 @@ void PantallaRestricciones::Seleccionar(Interfaz&) {
   texto("TextoRestricciónX") = f.rx;
   texto("TextoRestricciónY") = f.ry;
   texto("TextoRestricciónZ") = f.rz;
-  texto("TextoResorteX") = NúmeroATexto(f.kx);
-  texto("TextoResorteY") = NúmeroATexto(f.ky);
-  texto("TextoResorteZ") = NúmeroATexto(f.kz);
+  texto("TextoResorteX") = Valor(f.kx);
+  texto("TextoResorteY") = Valor(f.ky);
+  texto("TextoResorteZ") = Valor(f.kz);
 }
 
 bool PantallaRestricciones::LeerCajas(Interfaz& ui, Fila& f) {
@@ -1004,7 +1008,7 @@ void PantallaParámetrosEstratos::Mostrar() {
   l.filas.clear();
   for (std::size_t s = 0; s < filas_.size(); ++s) {
     std::vector<std::string> f{std::to_string(s + 1)};
-    for (double v : filas_[s]) f.push_back(NúmeroATexto(v));
+    for (double v : filas_[s]) f.push_back(Valor(v));
     l.filas.push_back(f);
   }
 }
@@ -1279,6 +1283,15 @@ void PresionesDePoros(Proyecto& p, Interfaz& ui) {
   }
   Form34 pantalla(p, true);
   ui.Abrir(pantalla);
+}
+
+void GráficoGeometríaTaludEstratos(Proyecto& p, Interfaz& ui) {
+  if (!EnElementosFinitos(p, ui)) return;
+  if (p.NúmeroPuntosTalud < 2 && p.Malla.NúmeroDeElementos < 1) {
+    ui.Mensaje("No hay coordenadas del talud ni elementos para dibujar.", "Geometría del problema");
+    return;
+  }
+  ui.MostrarFigura(FiguraMalla(p));
 }
 
 }  // namespace lomaterra

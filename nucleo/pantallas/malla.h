@@ -175,6 +175,9 @@ void CaracterizaciónElementos(Proyecto& p, Interfaz& ui);
 void NodosConRestricción(Proyecto& p, Interfaz& ui);
 void CargasUniformesSobreElementos(Proyecto& p, Interfaz& ui);
 void PresionesDePoros(Proyecto& p, Interfaz& ui);
+// The section with the mesh drawn on it: nodes and elements with their numbers, materials,
+// restrictions and loads.
+void GráficoGeometríaTaludEstratos(Proyecto& p, Interfaz& ui);
 
 extern const char* const kPreguntaMaterialesAlGuardar;
 

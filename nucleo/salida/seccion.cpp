@@ -1,4 +1,5 @@
 #include "salida/seccion.h"
+#include "salida/malla.h"
 
 #include <algorithm>
 #include <cmath>
@@ -301,6 +302,8 @@ Figura FiguraSección(const Proyecto& p) {
         f.rótulos.push_back({{x, y}, std::to_string(i), colores::Dovela, 7.0, "centro"});
       }
   }
+
+  if (p.TipoDeAnálisis == "F") AñadirMallaAFigura(f, p);
 
   if (p.NúmeroPuntosFreático > 0) {
     Trazo t =

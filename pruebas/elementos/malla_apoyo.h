@@ -16,27 +16,20 @@ inline void ProyectoUnEstrato(Proyecto& p, double ancho, double alto, double E, 
   p.TipoDeMaterial = "S";
   p.NúmeroPuntosTalud = 2;
   p.CoordenadasTalud.Redimensionar(2);
-  p.CoordenadasTalud.X[1] = ancho + 100;
-  p.CoordenadasTalud.Y[1] = alto;
-  p.CoordenadasTalud.X[2] = -100;
-  p.CoordenadasTalud.Y[2] = alto;
+  p.CoordenadasTalud.X[1] = ancho + 100, p.CoordenadasTalud.Y[1] = alto;
+  p.CoordenadasTalud.X[2] = -100, p.CoordenadasTalud.Y[2] = alto;
   p.NúmeroEstratos = 1;
   p.PuntosEstrato.Redimensionar(1);
   p.PuntosEstrato[1] = 2;
   p.XEstrato.Redimensionar(1, 2);
   p.YEstrato.Redimensionar(1, 2);
-  p.XEstrato(1, 1) = ancho + 100;
-  p.YEstrato(1, 1) = -1000;
-  p.XEstrato(1, 2) = -100;
-  p.YEstrato(1, 2) = -1000;
+  p.XEstrato(1, 1) = ancho + 100, p.YEstrato(1, 1) = -1000, p.XEstrato(1, 2) = -100, p.YEstrato(1, 2) = -1000;
   p.Estrato.RedimensionarConservando(1);
-  p.Estrato.PesoUnitarioHúmedo[1] = gamma;
-  p.Estrato.PesoUnitarioSaturado[1] = gamma;
+  p.Estrato.PesoUnitarioHúmedo[1] = p.Estrato.PesoUnitarioSaturado[1] = gamma;
   p.Estrato.CoeficienteKo[1] = 0;
   p.Malla.MóduloElasticidad.Redimensionar(1);
   p.Malla.CoeficientePoisson.Redimensionar(1);
-  p.Malla.MóduloElasticidad[1] = E;
-  p.Malla.CoeficientePoisson[1] = nu;
+  p.Malla.MóduloElasticidad[1] = E, p.Malla.CoeficientePoisson[1] = nu;
 }
 
 // Node coordinates of a grid of (columnas+1)×(filas+1) points, node number

@@ -76,14 +76,12 @@ TEST(PantallaNodos, ComprobacionesYOrden) {
   EXPECT_TRUE(vacía.cerrada);
   EXPECT_FALSE(q.Malla.NodosDefinidos);
 
-  Proyecto r = ConNodos(3);
-  EXPECT_TRUE(r.Malla.NodosDefinidos);
-  EXPECT_EQ(r.Malla.NúmeroDeNodos, 3);
-  EXPECT_EQ(r.Malla.Nodo.NúmeroDeNodo[1], 3);
 }
 
 TEST(PantallaElementos, SeisNodosConLadosRectosYCurvos) {
   Proyecto p = ConNodos(7);
+  ASSERT_TRUE(p.Malla.NodosDefinidos);
+  ASSERT_EQ(p.Malla.Nodo.NúmeroDeNodo[1], 7);
   PantallaElementos s(p);
   InterfazGuionada ui;
   s.Activar(ui);

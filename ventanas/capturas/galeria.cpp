@@ -27,6 +27,7 @@
 #include "interfaz_qt.h"
 #include "muestra.h"
 #include "pantallas/comandos_archivo.h"
+#include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
 #include "pantallas/interfaz_guionada.h"
 #include "pantallas/anclajes.h"
@@ -196,6 +197,10 @@ void TodasLasPantallas(const Proyecto& muestra, std::ofstream& transcripción) {
   calculada.CálculoHecho = true;
   calculada.ParámetrosIniciales.ParámetrosInstantáneos = 2;
   Pantallas(calculada, "calculada", transcripción);
+  // The finite-element sample: the mesh screens and the mesh drawn on the section.
+  Proyecto elementos;
+  InterfazGuionada lector;
+  if (LeerProyecto(elementos, LOMATERRA_EJEMPLO_ELEMENTOS, lector)) Pantallas(elementos, "elementos", transcripción);
 }
 
 }  // namespace

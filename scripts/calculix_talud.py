@@ -1,0 +1,82 @@
+#!/usr/bin/env python3
+"""Outside check of the stiffness solve: the mesh of ejemplos/talud_elementos.cod (made by
+scripts/generar_ejemplo_elementos.py) as a CalculiX deck of CPE3 elements under self weight,
+base and both sides fixed, E = 2000 ton/m2, nu = 0.3, unit weight 1.8 ton/m3, thickness 1 m.
+
+  python3 scripts/calculix_talud.py pruebas/datos/calculix
+  (cd pruebas/datos/calculix && ccx -i talud)
+  python3 scripts/calculix_talud.py --tabla pruebas/datos/calculix
+
+The second step writes talud.dat; --tabla turns it into talud_desplazamientos.txt (node, ux, uy in
+metres), the values the test compares with.
+"""
+import os
+import sys
+
+sys.path.insert(0, os.path.dirname(__file__))
+import generar_ejemplo_elementos as g  # noqa: E402
+
+
+def malla():
+    nodos = {}
+    for i in range(g.COLUMNAS + 1):
+        x0 = g.ANCHO * i / g.COLUMNAS
+        ys = g.ordenada_talud(x0)
+        for j in range(g.FILAS + 1):
+            dx = 0.001 * ((3 * i + 5 * j) % 7 + 1)
+            dy = 0.001 * ((5 * i + 3 * j) % 7 + 1)
+            y = ys * j / g.FILAS
+            y = y - dy if j == g.FILAS else y + dy
+            nodos[g.numero(i, j)] = (x0 + dx if i < g.COLUMNAS else x0 - dx, y)
+    elementos = []
+    fijos = []
+    for i in range(g.COLUMNAS):
+        for j in range(g.FILAS):
+            a, b, c, d = g.numero(i, j), g.numero(i + 1, j), g.numero(i + 1, j + 1), g.numero(i, j + 1)
+            elementos += [(a, b, c), (a, c, d)]
+    for i in range(g.COLUMNAS + 1):
+        for j in range(g.FILAS + 1):
+            if j == 0 or i in (0, g.COLUMNAS):
+                fijos.append(g.numero(i, j))
+    return nodos, elementos, sorted(fijos)
+
+
+def deck(carpeta):
+    nodos, elementos, fijos = malla()
+    with open(os.path.join(carpeta, "talud.inp"), "w") as f:
+        f.write("*HEADING\nTalud de ejemplo de Lomaterra, peso propio, base y lados fijos\n*NODE\n")
+        for n in sorted(nodos):
+            f.write("%d, %.15g, %.15g, 0\n" % (n, *nodos[n]))
+        f.write("*ELEMENT, TYPE=CPE3, ELSET=Eall\n")
+        for e, (a, b, c) in enumerate(elementos, 1):
+            f.write("%d, %d, %d, %d\n" % (e, a, b, c))
+        f.write("*NSET, NSET=Fijos\n")
+        for n in fijos:
+            f.write("%d,\n" % n)
+        f.write("*NSET, NSET=Todos, GENERATE\n1, %d, 1\n" % len(nodos))
+        f.write("*BOUNDARY\nFijos, 1, 2\n")
+        f.write("*MATERIAL, NAME=Suelo\n*ELASTIC\n2000., 0.3\n*DENSITY\n1.8\n")
+        f.write("*SOLID SECTION, ELSET=Eall, MATERIAL=Suelo\n1.\n")
+        f.write("*STEP\n*STATIC\n*DLOAD\nEall, GRAV, 1., 0., -1., 0.\n")
+        f.write("*NODE PRINT, NSET=Todos\nU\n*END STEP\n")
+
+
+def tabla(carpeta):
+    filas = []
+    dentro = False
+    for línea in open(os.path.join(carpeta, "talud.dat")):
+        if "displacements" in línea:
+            dentro = True
+            continue
+        partes = línea.split()
+        if dentro and len(partes) == 4:
+            filas.append("%s %s %s" % (partes[0], partes[1], partes[2]))
+    with open(os.path.join(carpeta, "talud_desplazamientos.txt"), "w") as f:
+        f.write("\n".join(filas) + "\n")
+
+
+if __name__ == "__main__":
+    if sys.argv[1] == "--tabla":
+        tabla(sys.argv[2])
+    else:
+        deck(sys.argv[1])
