@@ -126,13 +126,15 @@ TEST_F(Figuras, ElArcoCircularPasaPorSusPuntosConElCentroSobreLaCuerda) {
   p.ParámetrosIniciales.CentroX = 3, p.ParámetrosIniciales.CentroY = 30;
   ASSERT_TRUE(CentroDeArcoDeFalla(p, xc, yc, r));
   EXPECT_NEAR(xc, 10 - 2 * std::sqrt(5.0), 1e-9);
-  // A radius shorter than half the chord (√125 = 11.18) is raised by 0.5 m steps to 11.5, and
-  // the status line says so.
+  // A radius shorter than half the chord (√125 = 11.18) is raised by 0.5 m steps to 11.5; there
+  // the centre still stands below point 1, and it rises with the radius until R = 12.5, where
+  // sin γ = 3/5: centre (7.5, 10), level with point 1. The status line says so.
   p.ParámetrosIniciales.Radio = 5;
   ASSERT_TRUE(CentroDeArcoDeFalla(p, xc, yc, r));
-  EXPECT_DOUBLE_EQ(r, 11.5);
-  EXPECT_NEAR(std::hypot(20 - xc, 10 - yc), 11.5, 1e-9);
-  EXPECT_NEAR(std::hypot(xc, yc), 11.5, 1e-9);
+  EXPECT_DOUBLE_EQ(r, 12.5);
+  EXPECT_NEAR(xc, 7.5, 1e-9);
+  EXPECT_NEAR(yc, 10, 1e-9);
+  EXPECT_NEAR(std::hypot(xc, yc), 12.5, 1e-9);
   EXPECT_NE(AvisoDelArco(p).find("menor que la mitad de la cuerda"), std::string::npos);
 }
 

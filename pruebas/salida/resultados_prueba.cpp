@@ -104,10 +104,11 @@ TEST_F(Presentación, LosEsfuerzosPrincipalesSoloSiElMétodoLosDio) {
     ui.Olvidar();
     Ejecutar(o, p, ui);
     EXPECT_EQ(Líneas(ui),
-              std::vector<std::string>{"[mensaje] Esfuerzos principales | El cálculo realizado no "
-                                       "da los esfuerzos principales: los dan "
-                                       "el método de Dov Leshchinsky y los métodos para rocas. "
-                                       "Vaya al menú 'Equilibrio límite'."})
+              std::vector<std::string>{
+                  "[mensaje] Esfuerzos principales | Este cálculo, hecho por el método de Bishop "
+                  "A. W. en suelos, no da los esfuerzos principales. Los calculan los métodos para "
+                  "rocas (Leshchinsky - Hoek - Brown y Janbu en rocas); para los demás gráficos "
+                  "los resultados de este cálculo están disponibles."})
         << o;
   }
 }
