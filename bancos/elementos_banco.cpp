@@ -8,6 +8,7 @@
 
 #include "elementos/rigidez.h"
 #include "elementos/solucion.h"
+#include "elementos/viscoplastico.h"
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
@@ -152,5 +153,33 @@ BENCHMARK(BM_Perfil2025)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_PerfilNodos32767)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK(BM_Denso2025)->Unit(benchmark::kMillisecond)->Iterations(1);
 
+
+// The viscoplastic analysis whole (stiffness, factorisation and the four steps) on the same
+// meshes with a weak soil that yields at every step, so that all four steps run.
+void CorrerViscoplástico(benchmark::State& estado, long columnas, long filas, int nodos) {
+  Proyecto base = Malla(columnas, filas, nodos);
+  base.Estrato.Cohesión[1] = 0.5;
+  base.Estrato.Fricción[1] = 10;
+  base.Estrato.Viscosidad[1] = 1000;
+  base.Malla.IntervaloDeTiempo = 0.01;
+  long pasos = 0;
+  for (auto _ : estado) {
+    estado.PauseTiming();
+    Proyecto p = base;
+    InterfazGuionada ui;
+    CálculoElementos c;
+    estado.ResumeTiming();
+    if (!Elementotriangular(p, ui, c) || !CálculoViscoplástico(p, ui, c)) estado.SkipWithError("el cálculo no terminó");
+    pasos = p.Malla.NúmeroDeIteración;
+  }
+  estado.counters["nodos"] = static_cast<double>(base.Malla.NúmeroDeNodos);
+  estado.counters["pasos"] = static_cast<double>(pasos);
+}
+void BM_Viscoplástico2025(benchmark::State& s) { CorrerViscoplástico(s, 44, 44, 3); }
+void BM_Viscoplástico7921(benchmark::State& s) { CorrerViscoplástico(s, 88, 88, 3); }
+void BM_ViscoplásticoNodos32767(benchmark::State& s) { CorrerViscoplástico(s, 108, 75, 6); }
+BENCHMARK(BM_Viscoplástico2025)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(BM_Viscoplástico7921)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(BM_ViscoplásticoNodos32767)->Unit(benchmark::kMillisecond)->Iterations(1);
 }  // namespace
 }  // namespace lomaterra

@@ -25,7 +25,9 @@
 #include "proyecto/proyecto.h"
 #include "proyecto/secuencial.h"
 #include "resumen.h"
+#include "resumen_elementos.h"
 #include "salida/graficos.h"
+#include "salida/malla_resultados.h"
 #ifdef LOMATERRA_DIBUJO
 #include "salida_lote.h"
 #endif
@@ -128,9 +130,11 @@ std::string ComprobarSalidas(const Opciones& o) {
   for (const auto& [nombre, archivo] : o.figuras) {
     bool conocida = false;
     for (const auto& n : NombresDeGráficos()) conocida |= n == nombre;
+    conocida |= EsFiguraDeMalla(nombre);
     if (!conocida) {
       std::string r = "Figura desconocida: " + nombre + ". Las figuras son:";
       for (const auto& n : NombresDeGráficos()) r += " " + n;
+      for (const auto& n : NombresDeFigurasDeMalla()) r += " " + n;
       return r + ".";
     }
   }
@@ -304,7 +308,8 @@ int Correr(const std::vector<std::string>& argumentos) {
       }
     }
   if (o.json) {
-    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda};
+    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, ""};
+    informe.elementos = ElementosComoJson(p);
     std::string motivo;
     if (!EscribirArchivoCompleto(*o.json, InformeComoJson(informe), &motivo)) {
       std::cerr << "lomaterra-lote: no se pudo escribir \"" << *o.json << "\" (" << motivo << ").\n";

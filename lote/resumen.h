@@ -40,6 +40,7 @@ struct InformeLote {
   bool fallo = false;                      // an unforeseen fault ended a command
   Resumen resumen;
   std::string búsqueda;  // the JSON value of the search of the critical circle, when it ran
+  std::string elementos;  // the finite-element results as a JSON object, empty when none
 };
 
 // The JSON text: numbers at full precision, null where there is no number.

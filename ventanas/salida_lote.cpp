@@ -7,6 +7,7 @@
 #include "pintor.h"
 #include "proyecto/proyecto.h"
 #include "salida/graficos.h"
+#include "salida/malla_resultados.h"
 #include "salida/informe.h"
 #include "salida/resumen.h"
 
@@ -35,6 +36,15 @@ void PrepararDibujoSinVentana() {
 }
 
 bool EscribirInformeDeResultados(const Proyecto& p, const std::string& ruta, std::string& error) {
+  if (p.TipoDeAnálisis == "F" && p.CálculoHecho && p.Malla.NúmeroDeIteración >= 1) {
+    PrepararDibujoSinVentana();
+    QString e;
+    if (!EscribirInformePDF(InformeElementosFinitos(p), QString::fromStdString(ruta), &e)) {
+      error = e.toStdString();
+      return false;
+    }
+    return true;
+  }
   if (!HayResultados(p)) {
     error = "No hay resultados de un cálculo por equilibrio límite para el informe " + ruta + ".";
     return false;
@@ -50,6 +60,19 @@ bool EscribirInformeDeResultados(const Proyecto& p, const std::string& ruta, std
 
 bool EscribirFiguraDelMenú(const Proyecto& p, const std::string& nombre, const std::string& ruta,
                            std::string& error) {
+  if (EsFiguraDeMalla(nombre)) {
+    if (FiguraDeMallaNecesitaResultados(nombre) && (!p.CálculoHecho || p.Malla.NúmeroDeIteración < 1)) {
+      error = "No hay resultados de un cálculo de esfuerzos por elementos finitos para la figura " + nombre + ".";
+      return false;
+    }
+    PrepararDibujoSinVentana();
+    QString e;
+    if (!ExportarFigura(FiguraDeMalla(p, nombre), QString::fromStdString(ruta), &e)) {
+      error = e.toStdString();
+      return false;
+    }
+    return true;
+  }
   const auto& nombres = NombresDeGráficos();
   bool conocido = false;
   for (const auto& n : nombres) conocido |= n == nombre;

@@ -24,6 +24,11 @@
 #include "elementos/refinamiento.h"
 #include "pantallas/resultados.h"
 #include "pantallas/comandos_sismicos.h"
+#include "pantallas/resultados_esfuerzos.h"
+#include "elementos/plastico.h"
+#include "elementos/seguridad_esfuerzos.h"
+#include "elementos/viscoplastico.h"
+#include "salida/malla_resultados.h"
 
 namespace lomaterra {
 
@@ -87,6 +92,14 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["ImprimirInformaciónDadaAlPrograma"] = ImprimirInformaciónDadaAlPrograma;
   a["ImprimirResultadosAnálisisMétodosEquilibrioLímites"] = ImprimirResultadosAnálisisMétodosEquilibrioLímites;
   EnlazarComandosSísmicos(a);
+  a["CálculoEsfuerzosComportamientoViscoplástico"] = [](Proyecto& p, Interfaz& ui) { CálculoEsfuerzosComportamientoViscoplástico(p, ui); };
+  a["CálculoEsfuerzosComportamientoPlástico"] = [](Proyecto& p, Interfaz& ui) { CálculoEsfuerzosComportamientoPlástico(p, ui); };
+  a["FactorDeSeguridadDeslizamientoCálculoViscoplástico"] = FactorDeSeguridadDeslizamientoCálculoViscoplástico;
+  a["ResultadosDeEsfuerzosDesplazamientosElásticosViscoplásticos"] = ResultadosDeEsfuerzosDesplazamientosElásticosViscoplásticos;
+  a["ResultadosDeEsfuerzosDesplazamientosElásticosPásticos"] = ResultadosDeEsfuerzosDesplazamientosElásticosPásticos;
+  a["ImprimirResultadosAnálisisElementosFinitosViscoplásticoPLástico"] = ImprimirResultadosAnálisisElementosFinitosViscoplásticoPLástico;
+  for (const std::string& n : NombresDeFigurasDeMalla())
+    a[n] = [n](Proyecto& p, Interfaz& ui) { MostrarFiguraDeMalla(p, ui, n); };
 }
 
 }  // namespace lomaterra

@@ -221,6 +221,18 @@ struct MallaElementos {
   Tabla2<double> XElementoAnterior, YElementoAnterior, ZElementoAnterior, NúmeroElementoAnterior;
 
   double FSFinalElementos = 0;
+
+  // Stress solutions: yield function of each integration point ((e - 1)·3 + g, step), its
+  // extremes, the time of the viscoplastic steps, and the factors of safety read from stresses.
+  Tabla2<double> FunciónFluencia;
+  double FluenciaMáxima = 0, FluenciaMínima = 0;
+  Entero ElementoFluenciaMáxima = 0, ElementoFluenciaMínima = 0, PuntoFluenciaMáxima = 0, PuntoFluenciaMínima = 0;
+  Tabla<double> TiempoAcumulado;
+  bool CálculoViscoplásticoHecho = false;
+  double FSViscoplástico = 0, FSElástico = 0, FSSísmico = 0;
+  std::string OrigenEsfuerzos;
+  Tabla<double> ElementoDeDovela;
+  double CentroMomentosX = 0, CentroMomentosY = 0;
   void Limpiar() { *this = MallaElementos{}; }
 };
 

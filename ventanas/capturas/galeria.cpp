@@ -38,6 +38,8 @@
 #include "salida/registro_sismico.h"
 #include "sismico/formas_modales.h"
 #include "sismico/registro.h"
+#include "salida/malla_resultados.h"
+#include "elementos/viscoplastico.h"
 #include "salida_figura_qt.h"
 #include "ventana_principal_qt.h"
 #include "vista_pantalla.h"
@@ -267,6 +269,81 @@ int main(int argc, char** argv) {
       }
     }
     ventana.hide();
+  }
+  {
+    // A block of soil 12 m × 6 m under its own weight, linear triangles, base and sides fixed,
+    // weak enough to yield: the viscoplastic run and every mesh figure on its results.
+    Proyecto p;
+    p.TipoDeAnálisis = "F";
+    p.TipoDeMaterial = "S";
+    p.EstratosCaracterizados = true;
+    p.NúmeroPuntosTalud = 2;
+    p.CoordenadasTalud.Redimensionar(2);
+    p.CoordenadasTalud.X[1] = 100, p.CoordenadasTalud.Y[1] = 6.01, p.CoordenadasTalud.X[2] = -100, p.CoordenadasTalud.Y[2] = 6.01;
+    p.NúmeroEstratos = 1;
+    p.PuntosEstrato.Redimensionar(1);
+    p.PuntosEstrato[1] = 2;
+    p.XEstrato.Redimensionar(1, 2);
+    p.YEstrato.Redimensionar(1, 2);
+    p.XEstrato(1, 1) = 100, p.YEstrato(1, 1) = -100, p.XEstrato(1, 2) = -100, p.YEstrato(1, 2) = -100;
+    p.Estrato.RedimensionarConservando(1);
+    p.Estrato.PesoUnitarioHúmedo[1] = p.Estrato.PesoUnitarioSaturado[1] = 1.8;
+    p.Estrato.Cohesión[1] = 1.0, p.Estrato.Fricción[1] = 20, p.Estrato.Viscosidad[1] = 1000;
+    MallaElementos& m = p.Malla;
+    m.MóduloElasticidad.Redimensionar(1);
+    m.CoeficientePoisson.Redimensionar(1);
+    m.MóduloElasticidad[1] = 2000, m.CoeficientePoisson[1] = 0.3, m.IntervaloDeTiempo = 0.01;
+    const long nx = 12, ny = 6, nn = (nx + 1) * (ny + 1);
+    auto num = [&](long i, long j) { return 1 + i * (ny + 1) + j; };
+    auto X = [&](long i, long j) { return static_cast<double>(i) + 0.001 * static_cast<double>((3 * i + 5 * j) % 7 + 1); };
+    auto Y = [&](long i, long j) { return static_cast<double>(j) + 0.001 * static_cast<double>((5 * i + 3 * j) % 7 + 1); };
+    m.NúmeroDeNodos = static_cast<Entero>(nn);
+    m.Nodo.Redimensionar(nn);
+    for (long i = 0; i <= nx; ++i)
+      for (long j = 0; j <= ny; ++j) {
+        const long f = nn - num(i, j) + 1;
+        m.Nodo.NúmeroDeNodo[f] = static_cast<Entero>(num(i, j)), m.Nodo.XNodo[f] = X(i, j), m.Nodo.YNodo[f] = Y(i, j);
+      }
+    m.NúmeroDeElementos = static_cast<Entero>(2 * nx * ny);
+    m.Elemento.Redimensionar(2 * nx * ny);
+    long e = 0;
+    auto poner = [&](std::initializer_list<std::pair<long, long>> l) {
+      ++e;
+      m.Elemento.NodosPorElemento[e] = 3, m.Elemento.PuntosIntegración[e] = 1, m.Elemento.MaterialDeElemento[e] = 1;
+      m.Elemento.Lado12[e] = m.Elemento.Lado23[e] = m.Elemento.Lado31[e] = 2;
+      int k = 0;
+      double sx = 0, sy = 0;
+      for (const auto& [i, j] : l) {
+        ++k;
+        m.Elemento.NodoDeElemento(e, k) = m.Elemento.NúmeroElemento(e, k) = static_cast<double>(num(i, j));
+        m.Elemento.XElemento(e, k) = X(i, j), m.Elemento.YElemento(e, k) = Y(i, j);
+        sx += X(i, j), sy += Y(i, j);
+      }
+      m.Elemento.XCentroElemento[e] = sx / 3, m.Elemento.YCentroElemento[e] = sy / 3;
+    };
+    for (long i = 0; i < nx; ++i)
+      for (long j = 0; j < ny; ++j) {
+        poner({{i, j}, {i + 1, j}, {i + 1, j + 1}});
+        poner({{i, j}, {i + 1, j + 1}, {i, j + 1}});
+      }
+    long fr = 0;
+    m.NodoConRestricción.Redimensionar(nx + 1 + 2 * ny);
+    for (long i = 0; i <= nx; ++i)
+      for (long j = 0; j <= ny; ++j)
+        if (j == 0 || i == 0 || i == nx) {
+          ++fr;
+          m.NodoConRestricción.NodoRestringido[fr] = static_cast<double>(num(i, j));
+          m.NodoConRestricción.RestricciónX[fr] = m.NodoConRestricción.RestricciónY[fr] = "N";
+        }
+    m.NúmeroNodosConRestricción = static_cast<std::int32_t>(fr);
+    m.NodosDefinidos = m.ElementosDefinidos = m.MaterialesAsignados = m.CaracterísticasElásticasDadas = true;
+    m.NodosRestringidosDefinidos = m.ConfirmarElementos = true;
+    InterfazGuionada guion("N");
+    CálculoEsfuerzosComportamientoViscoplástico(p, guion);
+    for (const std::string& nombre : NombresDeFigurasDeMalla()) {
+      QString error;
+      if (!ExportarPNG(FiguraDeMalla(p, nombre), QDir(carpeta).filePath(Q("figura_" + nombre) + ".png"), &error)) ++fallos;
+    }
   }
   {
     auto caja = CrearCaja("Debe dar la información del proyecto. Entre al menú 'Archivo'",
