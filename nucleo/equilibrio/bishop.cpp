@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "equilibrio/dovelas.h"
+#include "equilibrio/instantaneos.h"
 #include "equilibrio/puertas.h"
 #include "proyecto/compat.h"
 #include "proyecto/fallos.h"
@@ -242,6 +243,7 @@ void DovelasDelMétodo(Proyecto& p, Interfaz& ui) {
           "Cambie los valores si lo requiere.");
     devolver();
   }
+  if (pase) CalcularParámetrosInstantáneos(p, ui);
 
   if (Mayúsculas(Recortar(pi.LetraUsaParámetrosInstantáneos)) == "S") {
     const long n = p.NúmeroBordes - 1;
@@ -354,6 +356,7 @@ void MétodoBishopConOpciones(Proyecto& p, Interfaz& ui, const OpcionesBishop& o
   // moves the radius and centre through trial values, none of which may outlive a run with no
   // result.
   const Proyecto antes = p;
+  PasePrevioInstantáneo(p);
   const HistoriaGuardada historia(p);
   p.NúmeroIteraciones = 0;
   if (Mayúsculas(p.TipoDeMaterial) == "R" && !pi.UsaParámetrosInstantáneos) {

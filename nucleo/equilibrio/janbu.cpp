@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "equilibrio/instantaneos.h"
 #include "equilibrio/puertas.h"
 #include "equilibrio/form17.h"
 #include "proyecto/compat.h"
@@ -66,6 +67,12 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
   }
   if (!PuertaParámetrosInstantáneos(p, ui)) return;
 
+  PasePrevioInstantáneo(p);
+  IteraciónJanbu(p, ui, límitePasadas, false);
+}
+
+void IteraciónJanbu(Proyecto& p, Interfaz& ui, int límitePasadas, bool roca) {
+  auto& pi = p.ParámetrosIniciales;
   const TablaHistoria historiaPrevia = p.HistoriaIteraciones;
   const Entero iteracionesPrevias = p.NúmeroIteraciones;
   auto devolverHistoria = [&] {
@@ -73,7 +80,10 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
     p.NúmeroIteraciones = iteracionesPrevias;
   };
   p.NúmeroIteraciones = 1;
-  DovelasDelMétodo(p, ui);
+  if (roca)
+    DovelasEnRoca(p, ui);
+  else
+    DovelasDelMétodo(p, ui);
   if (p.NúmeroBordes < 2) {
     AvisoSinDovelas(ui);
     devolverHistoria();
@@ -114,7 +124,8 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
   // First forces, with no shear between slices.
   for (long i = 1; i <= n; ++i) {
     const double b = d.Ancho[i], h = d.YTalud[i] - d.YBase[i], u = d.PresiónPoros[i];
-    c.W[i] = h * d.PesoUnitarioMedio[i] * b + d.AlturaAguaSobreTalud[i] * b;
+    c.W[i] = roca ? PesoDovelaEnRoca(p, i)
+                  : h * d.PesoUnitarioMedio[i] * b + d.AlturaAguaSobreTalud[i] * b;
     double V = c.dT[i] + c.W[i] + kv * c.W[i];
     for (long k = 1; k <= p.CargasUniformesVigentes(); ++k)
       if (CargaUniformeSobreDovela(p, k, i)) V += b * p.CargaUniforme.qy[k];
@@ -272,9 +283,14 @@ void MétodoJanbuConLímite(Proyecto& p, Interfaz& ui, int límitePasadas) {
   }
   p.CálculoHecho = true;
   p.JanbuCalculado = true;
-  ui.Mensaje(
-      "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para "
-      "suelos.");
+  if (roca)
+    ui.Mensaje(
+        "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para "
+        "Rocas.");
+  else
+    ui.Mensaje(
+        "Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para "
+        "suelos.");
 }
 
 }  // namespace lomaterra

@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "equilibrio/bishop.h"
 #include "equilibrio/dovelas.h"
+#include "equilibrio/instantaneos.h"
 #include "equilibrio/puertas.h"
 #include "equilibrio/form13.h"
 #include "equilibrio/form9.h"
@@ -79,7 +81,7 @@ double DatosVariacionales::T(long i, double σ) const {
   return (σ - u[k]) * t[k] + c[k];
 }
 
-DatosVariacionales LeerDatosVariacionales(const Proyecto& p) {
+DatosVariacionales LeerDatosVariacionales(const Proyecto& p, bool pesoEquivalente) {
   const auto& d = p.TablaDovelas;
   DatosVariacionales dv;
   const long n = p.NúmeroBordes - 1;
@@ -112,7 +114,7 @@ DatosVariacionales LeerDatosVariacionales(const Proyecto& p) {
     dv.p[k] = d.PresiónPorosMedia.Leer(i);
     // Water standing over the surface enters the column of the differential equation as a
     // weighted mean of soil and water, unless a rapid drawdown has taken it away.
-    if (dv.yw[k] > dv.yt[k] && !p.DesembalseRápido)
+    if (pesoEquivalente && dv.yw[k] > dv.yt[k] && !p.DesembalseRápido)
       dv.ge[k] = Div((dv.yt[k] - dv.y[k]) * dv.gm[k] + (dv.yw[k] - dv.yt[k]), dv.yw[k] - dv.y[k],
                      "el peso unitario equivalente de la columna");
     else
@@ -448,18 +450,13 @@ void ProcesoIterativoEnSuelos(Proyecto& p, Interfaz& ui) {
   }
 
   // Preparation
-  const bool casoGráfico = par.UsaParámetrosInstantáneos && par.ParámetrosInstantáneos == 3;
-  PrepararDovelas(p, ui, casoGráfico);
+  // The slices, with the values of an instantaneous pass kept and made around the stages.
+  PasePrevioInstantáneo(p);
+  DovelasDelMétodo(p, ui);
   const long n = p.NúmeroBordes - 1;
   if (n < 4) {
     ui.Mensaje(kTextoPocasDovelas, kTítuloPocasDovelas);
     return;
-  }
-  if (letraS) {
-    const double π = 4 * std::atan(1.0);
-    auto& d = p.TablaDovelas;
-    d.TanFricciónBase.RedimensionarConservando(std::max<long>(d.TanFricciónBase.Tamaño(), n));
-    for (long i = 1; i <= n; ++i) d.TanFricciónBase[i] = std::tan(π * d.FricciónBase[i] / 180);
   }
 
   // From here on the floating-point flags speak of this method alone: the net before the results

@@ -60,8 +60,8 @@ struct DatosVariacionales {
 };
 
 // Reads the slices of the project into the short names and derives h, ge, d and the weights.
-// Needs four slices or more.
-DatosVariacionales LeerDatosVariacionales(const Proyecto& p);
+// Needs four slices or more. Without `pesoEquivalente` (the method in rock) ge is gm throughout.
+DatosVariacionales LeerDatosVariacionales(const Proyecto& p, bool pesoEquivalente = true);
 
 // One row of the iteration: µ1, µ2, F and the stresses σ[1..n+1] (σ[1] at the crest).
 struct FilaVariacional {

@@ -3,19 +3,22 @@
 
 #include "equilibrio/bishop.h"
 #include "equilibrio/fellenius.h"
+#include "equilibrio/instantaneos.h"
 #include "equilibrio/janbu.h"
 #include "equilibrio/leshchinsky.h"
+#include "equilibrio/leshchinsky_rocas.h"
 #include "pantallas/comandos_archivo.h"
 #include "pantallas/comandos_coordenadas.h"
 #include "equilibrio/constantes.h"
 #include "pantallas/constantes_elementos.h"
 #include "pantallas/form15.h"
-#include "pantallas/form18.h"
+#include "equilibrio/form18.h"
 #include "pantallas/form34.h"
 #include "pantallas/form5.h"
 #include "pantallas/form6.h"
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
+#include "pantallas/estratos_roca.h"
 #include "pantallas/resultados.h"
 #include "pantallas/comandos_sismicos.h"
 
@@ -39,6 +42,8 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MenúEliminarNivelFreático"] = MenúEliminarNivelFreático;
   a["MenúInformación"] = MenúInformación;
   a["CaracterísticasGeomecánicasSuelos"] = CaracterísticasGeomecánicasSuelos;
+  a["ParámetrosCaracterizaciónRocaSinLaboratorio"] = ParámetrosCaracterizaciónRocaSinLaboratorio;
+  a["ParámetrosDeCaracterizaciónRocaConLaboratorio"] = ParámetrosDeCaracterizaciónRocaConLaboratorio;
   a["MénuGeometríaEntrePuntosSuperficieFalla"] = MénuGeometríaEntrePuntosSuperficieFalla;
   a["CargasUniformes"] = CargasUniformes;
   a["CargasPuntuales"] = CargasPuntuales;
@@ -47,7 +52,10 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["MétodoFellenius"] = MétodoFellenius;
   a["MétodoBishop"] = MétodoBishop;
   a["MétodoJanbu"] = MétodoJanbu;
+  a["MétodoJanbuEnRocas"] = MétodoJanbuEnRocas;
   a["ProcesoIterativoEnSuelos"] = ProcesoIterativoEnSuelos;
+  a["CálculoParámetrosInstantáneos"] = CálculoParámetrosInstantáneos;
+  a["ProcesoIterativoEnRocas"] = ProcesoIterativoEnRocas;
   a["CambioParámetrosResistenciaPresiónPoros"] = CambioParámetrosResistenciaPresiónPoros;
   a["PresionesDePorosEquilibrioLímite"] = PresionesDePorosEquilibrioLímite;
   a["ResultadosCálculoRocas"] = ResultadosCálculoRocas;

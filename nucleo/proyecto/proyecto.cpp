@@ -103,6 +103,9 @@ void ReiniciarProyecto(Proyecto& p) {
   p.EtapaIntersecciones = p.EtapaQuiebres = p.EtapaDovelas = false;
   p.EtapaGeometría = p.EtapaEstratos = p.EtapaPoros = false;
   p.DesembalseRápido = false;
+  // The radius that a search of the project before left in variation is not this project's: the
+  // first calculation after New or Open finds the centre of its own arc.
+  p.Trabajo.RadioEnVariación = false;
   p.PresionesExistentes = false;
   // Everything of the mesh and of the seismic analysis.
   p.Malla.Limpiar();

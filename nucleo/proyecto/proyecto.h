@@ -127,6 +127,7 @@ struct DatosRoca {
   double EspesorConsiderado = 1;
   Entero MétodoModuloCortante = 0;
   double PeríodoFundamental = 0;
+  double EspesorSedimentos = 0;  // estimated by the geologist, for the seismic analysis
 };
 
 // Anchors designed on the result screens.

@@ -181,6 +181,10 @@ std::vector<ColumnaDovela> ColumnasDeDovelas(const Proyecto& p) {
   if (!roca || p.ParámetrosIniciales.UsaParámetrosInstantáneos) {
     si(d.CohesiónBase, De("Cohesión c (ton/m2)", &D::CohesiónBase));
     si(d.FricciónBase, De("Fricción φ (°)", &D::FricciónBase));
+  } else {
+    // In rock the bases carry the cohesion and friction equivalent to the Hoek-Brown curve.
+    si(d.CohesiónBase, De("Cohesión equivalente c (ton/m2)", &D::CohesiónBase));
+    si(d.FricciónBase, De("Fricción equivalente φ (°)", &D::FricciónBase));
   }
   if (roca) {
     if (!p.ParámetrosIniciales.UsaParámetrosInstantáneos) {

@@ -533,6 +533,8 @@ TEST(BishopPuertas, PalabraPorPalabra) {
             "A continuación se presenta la pantalla de la sesión 'Cambio de parámetros de "
             "resistencia' para que  dé  "
             "los valores de cohesión, fricción y presión de poros  para cada dovela."),
+        Msj("PARAMETROS POR PANTALLA:", "Ud ha dado los parámetros instantáneos por PANTALLA"),
+        Apunte{"pantalla", "Cambio de la presión de poros y parámetros de resistencia", "Form18", ""},
         Msj("", kFin)}},
   };
   for (const auto& c : casos) {

@@ -7,7 +7,11 @@
 #include "lote/ejemplos.h"
 
 #include "apoyo/proyectos.h"
+#include "equilibrio/estratos/hoek_brown.h"
+#include "equilibrio/janbu.h"
+#include "pantallas/interfaz_guionada.h"
 
+#include <cmath>
 #include <initializer_list>
 #include <utility>
 
@@ -198,6 +202,90 @@ Proyecto JanbuACADS() {
   return Terminar(p);
 }
 
+namespace {
+
+// One rock mass (mi 10, σci 60) under the slope of the ACADS problem, on its circle: m and s of
+// the mass from GSI without disturbance.
+Proyecto TaludDeRoca(const std::string& descripción, double gsi) {
+  Proyecto p = Base(descripción, "K1+000");
+  p.TipoDeMaterial = "R";
+  PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
+  PonerTramos(p, {{1, 2, "C"}});
+  Estratos(p, {{0, 0, 2, 2, 0, 0, 0, 0, {{70, 0}, {20, 0}}}});
+  const ConstantesMacizo c = ConstantesHoekBrown(10, gsi, 0);
+  auto& e = p.Estrato;
+  e.m_intacta[1] = 10;
+  e.Parámetro_GSI[1] = gsi;
+  e.m_macizo[1] = c.m;
+  e.s_macizo[1] = c.s;
+  e.C_Simple[1] = 60;
+  p.Roca.TipoDeObra = "S";
+  p.Roca.AlturaH = 10;
+  auto& pi = p.ParámetrosIniciales;
+  pi.Radio = 28.2;
+  pi.NúmeroDovelas = 30;
+  return p;
+}
+
+}  // namespace
+
+// A weak, blocky rock mass (GSI 20: the exponent a at the bases is 0.65 − 20/200 = 0.55) by
+// Leshchinsky and Huang in rock, from µ1 = 40, µ2 = 70 and F = 1.5.
+Proyecto TaludRocaLeshchinsky() {
+  Proyecto p = TaludDeRoca("Talud de 10 m, 2H:1V, en un macizo rocoso débil (GSI 20, mi 10, compresión simple 60). "
+                           "Método de Leshchinsky y Huang con el criterio de Hoek y Brown.",
+                           20);
+  auto& pi = p.ParámetrosIniciales;
+  pi.MétodoDeCálculo = 1;
+  pi.Multiplicador1 = 40;
+  pi.Multiplicador2 = 70;
+  pi.FSInicial = 1.5;
+  return Terminar(p);
+}
+
+// The same mass with m and s fitted to three triaxial tests (sigma 1, sigma 3 in ton/m2) on the
+// laboratory screen: the pairs lie on (σ1 − σ3)² = 0.5·60·σ3 + 0.001·60², so the fit gives back
+// m = 0.5 and s = 0.001. Janbu in rock.
+Proyecto EnsayosDeRoca() {
+  Proyecto p = TaludDeRoca("Macizo rocoso con m y s ajustados a ensayos triaxiales de laboratorio (tres pares de "
+                           "esfuerzos principales). Método de Janbu aplicado a rocas.",
+                           20);
+  p.ParámetrosIniciales.MétodoDeCálculo = 4;
+  auto& r = p.Roca;
+  r.EnsayosDados = true;
+  r.PuntosEnsayo.Redimensionar(1);
+  r.PuntosEnsayo[1] = 3;
+  r.EnsayoSigma1.Redimensionar(1, 3);
+  r.EnsayoSigma3.Redimensionar(1, 3);
+  const double σ3[] = {0, 5, 10};
+  for (long j = 1; j <= 3; ++j) {
+    const double x = σ3[j - 1];
+    r.EnsayoSigma3(1, j) = x;
+    r.EnsayoSigma1(1, j) = x + std::sqrt(0.5 * 60 * x + 0.001 * 60 * 60);
+  }
+  p.Estrato.m_macizo[1] = 0.5;
+  p.Estrato.s_macizo[1] = 0.001;
+  return Terminar(p);
+}
+
+// The ACADS problem after a first run of Janbu, saved with the second pass in instantaneous
+// parameters between points (case 2) ordered, the letter "S" in the file: the methods refuse it
+// until the command "Suelos o Rocas (parámetros instantáneos c,fi)" of the menu Calcular runs.
+Proyecto InstantáneosTrasJanbu() {
+  Proyecto p = JanbuACADS();
+  p.Ventana.TextoProyecto =
+      "Problema de referencia ACADS EX1(a) ya calculado por Janbu, para un segundo cálculo con "
+      "parámetros instantáneos entre puntos (caso 2).";
+  p.ParámetrosIniciales.ParámetrosInstantáneos = 2;
+  InterfazGuionada ui;
+  MétodoJanbu(p, ui);
+  // The pass ordered: the file carries the letter "S" and the case.
+  p.ParámetrosIniciales.UsaParámetrosInstantáneos = true;
+  p.ParámetrosIniciales.LetraUsaParámetrosInstantáneos = "S";
+  return Terminar(p);
+}
+
 const std::vector<Ejemplo>& Ejemplos() {
   static const std::vector<Ejemplo> e = {
       {"talud_homogeneo.cod", TaludHomogéneo},
@@ -206,6 +294,9 @@ const std::vector<Ejemplo>& Ejemplos() {
       {"falla_polinomica.cod", FallaPolinómica},
       {"bishop_radio_variable.cod", BishopRadioVariable},
       {"janbu_acads.cod", JanbuACADS},
+      {"talud_roca_leshchinsky.cod", TaludRocaLeshchinsky},
+      {"ensayos_roca.cod", EnsayosDeRoca},
+      {"instantaneos_tras_janbu.cod", InstantáneosTrasJanbu},
   };
   return e;
 }

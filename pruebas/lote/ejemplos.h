@@ -20,6 +20,9 @@ Proyecto FallaMixtaC();
 Proyecto FallaPolinómica();
 Proyecto BishopRadioVariable();
 Proyecto JanbuACADS();
+Proyecto TaludRocaLeshchinsky();
+Proyecto EnsayosDeRoca();
+Proyecto InstantáneosTrasJanbu();
 
 const std::vector<Ejemplo>& Ejemplos();
 

@@ -36,7 +36,7 @@ TEST(Ejemplos, CadaArchivoEsElDeSuProyecto) {
     EXPECT_TRUE(LeerProyecto(q, RutaEjemplo(e.archivo), ui));
     EXPECT_TRUE(ui.Transcripción().empty());
     EXPECT_EQ(q.TipoDeAnálisis, "T");
-    EXPECT_EQ(q.TipoDeMaterial, "S");
+    EXPECT_EQ(q.TipoDeMaterial, p.TipoDeMaterial);
     EXPECT_EQ(q.ParámetrosIniciales.MétodoDeCálculo, p.ParámetrosIniciales.MétodoDeCálculo);
     EXPECT_TRUE(q.ParámetrosInicialesDados && q.EstratosCaracterizados && q.GeometríaFallaDefinida);
     // Every failure surface starts at the crest side and ends at the toe side, inside the slope.

@@ -50,5 +50,35 @@ TEST(MétodosEnEjemplos, BishopConBúsquedaDelRadioTerminaConSuMensaje) {
   EXPECT_GT(v.Campo("FactorDeSeguridad")->número, 0.0);
 }
 
+TEST(MétodosEnEjemplos, RocaPorLeshchinskyYSegundoPaseInstantáneo) {
+  // The rock slope of GSI 20 converges by Leshchinsky and Huang in rock with N to every step.
+  const ValorJson roca = Correr("talud_roca_leshchinsky.cod", "ProcesoIterativoEnRocas");
+  const ValorJson* t = roca.Campo("transcripción");
+  ASSERT_TRUE(t && t->tipo == ValorJson::Lista && !t->lista.empty());
+  EXPECT_EQ(t->lista.back().texto,
+            "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de "
+            "Leshchinsky and Ching-Chuan Huang y el criterio de rotura de Hoek and Brown (m,s) para rocas.");
+  EXPECT_GT(roca.Campo("FactorDeSeguridad")->número, 0.0);
+  // A file with the letter "S": recalculate with new values (S, N), the method (S), no drawdown,
+  // recalculate and go on.
+  const ValorJson ins =
+      Correr("instantaneos_tras_janbu.cod", "CálculoParámetrosInstantáneos --respuestas SNSNSS");
+  t = ins.Campo("transcripción");
+  ASSERT_TRUE(t && t->tipo == ValorJson::Lista && !t->lista.empty());
+  EXPECT_EQ(t->lista.back().texto,
+            "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por el método de Janbu para suelos.");
+  // Before the command the method refuses the letter "S"; keeping the values the pass says so.
+  const ValorJson rechazo = Correr("instantaneos_tras_janbu.cod", "MétodoJanbu --respuestas NS");
+  t = rechazo.Campo("transcripción");
+  ASSERT_TRUE(t && !t->lista.empty());
+  EXPECT_NE(t->lista.back().texto.find("No es el camino:"), std::string::npos);
+  const ValorJson mismos = Correr("instantaneos_tras_janbu.cod", "CálculoParámetrosInstantáneos --respuestas SSSNSS");
+  t = mismos.Campo("transcripción");
+  ASSERT_TRUE(t && t->lista.size() > 2);
+  bool reutilizó = false;
+  for (const auto& a : t->lista) reutilizó |= a.texto.find("Se utilizan los parámetros de corte ya obtenidos") != std::string::npos;
+  EXPECT_TRUE(reutilizó);
+}
+
 }  // namespace
 }  // namespace lomaterra::pruebas

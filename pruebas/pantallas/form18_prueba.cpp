@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "pantallas/form18.h"
+#include "equilibrio/form18.h"
 #include "pantallas/form34.h"
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"

@@ -1,4 +1,4 @@
-#include "pantallas/form18.h"
+#include "equilibrio/form18.h"
 
 #include <cmath>
 
