@@ -5,6 +5,8 @@
 #include <cmath>
 
 #include "sismico/duhamel.h"
+#include "sismico/inversa_explicita.h"
+#include "sismico/paso_a_paso.h"
 
 namespace lomaterra {
 namespace {
@@ -50,6 +52,58 @@ TEST(Duhamel, LaAcumulaciónDelCálculoAMano) {
   EXPECT_NEAR(s.q, F / (M * 25), 1e-12);
   EXPECT_NEAR(s.qd, 0, 1e-12);
   EXPECT_NEAR(s.qa, F * (1 - 1 / M), 1e-12);
+}
+
+}  // namespace
+}  // namespace lomaterra
+
+namespace lomaterra {
+namespace {
+
+long InversaDePrueba(const std::vector<double>& a, long n, std::vector<double>& inv) {
+  return InversaGaussJordanSimple(a, n, inv);
+}
+
+TEST(PasoAPaso, UnGradoTresPasosCalculadosAMano) {
+  // K = 1000, M = 10, P = 10 at every step, Dt = 0.01. Step 1 static: u = 0.01, v = 2u/Dt = 2,
+  // a = 4u/Dt² = 400. Step 2, C = 0: K* = 1000 + 4 * 10 / 1e-4 = 401000,
+  // dP = 0 - |(400 * 2 + 2 * 400) 10| = -16000, du = -16000/401000; v = 2 + 200 du - 4,
+  // a = 400 + 40000 du - 800 - 800. Step 3: dP = -|(400 v2 + 2 a2) 10|.
+  // With C = 2 at step 2: K* = 401000 + 200 * 2, dP = -16000 - |(0.005 * 400 + 3 * 2) 2| = -16016.
+  const std::vector<double> K{1000}, M{10}, P{10}, C0{0}, C2{2};
+  for (const std::vector<double>* C : {&C0, &C2}) {
+    EstadoPasoAPaso e;
+    DatosPasoAPaso d{1, &M, &K, &K, C, &P, 0.01, true};
+    ASSERT_EQ(PasoAPaso(d, e, InversaDePrueba), 0);
+    EXPECT_DOUBLE_EQ(e.u[0], 0.01);
+    EXPECT_DOUBLE_EQ(e.v[0], 2);
+    EXPECT_DOUBLE_EQ(e.a[0], 400);
+    d.primero = false;
+    ASSERT_EQ(PasoAPaso(d, e, InversaDePrueba), 0);
+    const double du2 = C == &C0 ? -16000.0 / 401000 : -16016.0 / 401400;
+    EXPECT_NEAR(e.u[0], 0.01 + du2, 1e-15);
+    EXPECT_NEAR(e.v[0], 2 + 200 * du2 - 4, 1e-12);
+    EXPECT_NEAR(e.a[0], 400 + 40000 * du2 - 1600, 1e-9);
+    if (C == &C2) continue;
+    ASSERT_EQ(PasoAPaso(d, e, InversaDePrueba), 0);
+    const double v2 = 2 + 200 * du2 - 4, a2 = 400 + 40000 * du2 - 1600;
+    EXPECT_NEAR(e.u[0], 0.01 + du2 - std::fabs((400 * v2 + 2 * a2) * 10) / 401000, 1e-14);
+    EXPECT_NEAR(e.u[0], -0.2689, 1e-4);  // the figures 0.0100, -0.0299, -0.269 m
+  }
+}
+
+TEST(PasoAPaso, SoloLaDiagonalDeLaInversaYElCorte) {
+  // K = [2 -1; -1 2], P = (1, 0): the inverse is [2 1; 1 2]/3, so du = (2/3, 0), not (2/3, 1/3).
+  // A load of 3e7 on K = 1000 gives 3e4 m: cut to 10^4.
+  const std::vector<double> K{2, -1, -1, 2}, M{1, 0, 0, 1}, P{1, 0}, Kg{1000}, Mg{1}, Pg{-3e7};
+  EstadoPasoAPaso e, g;
+  ASSERT_EQ(PasoAPaso({2, &M, &K, &K, nullptr, &P, 0.1, true}, e, InversaDePrueba), 0);
+  EXPECT_NEAR(e.u[0], 2.0 / 3, 1e-15);
+  EXPECT_EQ(e.u[1], 0);
+  EXPECT_FALSE(e.corte);
+  ASSERT_EQ(PasoAPaso({1, &Mg, &Kg, &Kg, nullptr, &Pg, 0.1, true}, g, InversaDePrueba), 0);
+  EXPECT_EQ(g.u[0], -10000);
+  EXPECT_TRUE(g.corte);
 }
 
 }  // namespace
