@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "sismico/amortiguamiento.h"
+#include "sismico/modulo_degradado.h"
 
 namespace lomaterra {
 
@@ -58,10 +59,7 @@ long PasoAPaso(const DatosPasoAPaso& d, EstadoPasoAPaso& e, const FunciónInvers
       e.da[i] = 4 / (dt * dt) * du - 4 / dt * e.v[i] - 2 * e.a[i];
       e.u[i] += du, e.v[i] += e.dv[i], e.a[i] += e.da[i];
     }
-    if (std::fabs(e.u[i]) >= 1e4) {
-      e.u[i] = e.u[i] > 0 ? 10000 : -10000;
-      e.corte = true;
-    }
+    if (CortarDesplazamiento(e.u[i])) e.corte = true;
   }
   e.cargaAnterior = P;
   return 0;
