@@ -7,6 +7,7 @@
 #include "sismico/duhamel.h"
 #include "sismico/inversa_explicita.h"
 #include "sismico/paso_a_paso.h"
+#include "sismico/paso_desacoplado.h"
 
 namespace lomaterra {
 namespace {
@@ -104,6 +105,22 @@ TEST(PasoAPaso, SoloLaDiagonalDeLaInversaYElCorte) {
   ASSERT_EQ(PasoAPaso({1, &Mg, &Kg, &Kg, nullptr, &Pg, 0.1, true}, g, InversaDePrueba), 0);
   EXPECT_EQ(g.u[0], -10000);
   EXPECT_TRUE(g.corte);
+}
+
+TEST(PasoDesacoplado, UnGradoDosPasosCalculadosAMano) {
+  // w = 10, z = 0, Dt = 0.1, F = 1, mode component 2. Divisor 6/Dt² + w² = 700.
+  // Step 1: q = 1/700, v = 30/700, a = 600/700. Step 2: L = 60 v + 3 a = 3600/700, dq = L/700,
+  // v += 30 dq - 0.05 a - 3 v. Node: u = 2 q; a1 = 600 u1, a2 = 400 (u2 - u1) - 40 v1 - a1.
+  EstadoDesacoplado e;
+  PasoDesacoplado({2}, 1, {1}, {0}, 10, 0.1, true, e);
+  EXPECT_NEAR(e.u[0], 2.0 / 700, 1e-15);
+  EXPECT_NEAR(e.a[0], 1200.0 / 700, 1e-12);
+  PasoDesacoplado({2}, 1, {1}, {0}, 10, 0.1, false, e);
+  const double dq = 3600.0 / 490000, v2 = 30.0 / 700 + 30 * dq - 0.05 * 600 / 700 - 90.0 / 700;
+  EXPECT_NEAR(e.modos[0].q, 1.0 / 700 + dq, 1e-15);
+  EXPECT_NEAR(e.v[0], 2 * v2, 1e-13);
+  EXPECT_NEAR(e.a[0], 400 * 2 * dq - 40 * 60.0 / 700 - 1200.0 / 700, 1e-10);
+  EXPECT_FALSE(e.límite);
 }
 
 }  // namespace
