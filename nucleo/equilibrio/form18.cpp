@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "equilibrio/puertas.h"
-#include "pantallas/valores_posibles.h"
+#include "proyecto/valores_posibles.h"
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "pantallas/valores_posibles.h"
+#include "proyecto/valores_posibles.h"
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"

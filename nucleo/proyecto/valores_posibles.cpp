@@ -1,4 +1,4 @@
-#include "pantallas/valores_posibles.h"
+#include "proyecto/valores_posibles.h"
 
 #include "proyecto/interfaz.h"
 
