@@ -36,6 +36,8 @@ bool CentroDelArcoDeConstantes(double x1, double y1, double x2, double y2, doubl
 
 // The most slices a calculation takes: the constants screen refuses more.
 inline constexpr int kMáximoDovelas = 5000;
+// Leshchinsky-Huang in rock inverts its whole matrix at every step: it holds this many slices.
+inline constexpr int kMáximoDovelasRocas = 400;
 
 // Opens the constants screen modally (menu command MenúArchivoConstantes without its gate; also
 // called by the centre of the arc when the radius is below half the chord).

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "equilibrio/constantes.h"
 #include "equilibrio/estratos/hoek_brown.h"
 #include "equilibrio/form13.h"
 #include "equilibrio/form9.h"
@@ -301,6 +302,15 @@ void ProcesoIterativoEnRocas(Proyecto& p, Interfaz& ui) {
   }
   if (par.UsaParámetrosInstantáneos) {
     ui.Mensaje("Ud. está calculando por el método de parámetros instantáneos");
+    return;
+  }
+  // The rock form still inverts its whole matrix at every Newton step: its time grows with the
+  // cube of the slices, so a count that would take minutes is refused before anything is done.
+  if (par.NúmeroDovelas > kMáximoDovelasRocas) {
+    ui.Mensaje("El método de Leshchinsky-Huang en rocas admite hasta " + std::to_string(kMáximoDovelasRocas) +
+                   " dovelas y el proyecto pide " + std::to_string(static_cast<long>(par.NúmeroDovelas)) +
+                   ". Reduzca el número de dovelas en las constantes de cálculo.",
+               "Demasiadas dovelas:");
     return;
   }
 

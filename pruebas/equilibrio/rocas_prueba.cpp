@@ -147,6 +147,13 @@ TEST(LeshchinskyRocas, GSIDe25OMásTerminaDiciendoPorQué) {
   EXPECT_NE(texto.find("(estrato 1)"), std::string::npos) << texto;
   EXPECT_NE(texto.find("GSI menor que 25"), std::string::npos) << texto;
   EXPECT_FALSE(p.CálculoHecho);
+  // More slices than the whole-matrix inversion can hold are refused before any stage runs.
+  p = TaludDeRoca(20);
+  p.ParámetrosIniciales.NúmeroDovelas = 401;
+  InterfazGuionada otra;
+  EXPECT_EQ(EjecutarComando(ProcesoIterativoEnRocas, p, otra), FinDeComando::Normal);
+  EXPECT_EQ(otra.Transcripción().back().título, "Demasiadas dovelas:");
+  EXPECT_EQ(p.NúmeroBordes, 0);
 }
 
 TEST(JanbuRocas, PuertasYEstratosDesdeElGSI) {
