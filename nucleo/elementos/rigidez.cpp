@@ -208,7 +208,8 @@ bool Elementotriangular(Proyecto& p, Interfaz& ui, CálculoElementos& c) {
     }
   }
 
-  ui.Estado("Se está en la estimación de la matriz de rigidez");
+  ui.Estado(c.sísmico ? "Se está en la estimación de la matriz de rigidez y de masas"
+                      : "Se está en la estimación de la matriz de rigidez");
   m.CalculandoRigidez = true;
   struct AlSalir {
     Proyecto& p;
@@ -495,8 +496,10 @@ bool Elementotriangular(Proyecto& p, Interfaz& ui, CálculoElementos& c) {
     if (e == 1) {
       const double minutos = (reloj() - t1) * static_cast<double>(NE - 1) / 60;
       ui.Mensaje(
-          "El número indicado al final de este mensaje, corresponde al tiempo en minutos que tardará el programa "
-          "en estimar la matriz de rigideces: " +
+          std::string(c.sísmico ? "El número indicado al final de este mensaje, corresponde al tiempo en minutos que "
+                                 "tardará el programa en estimar la matriz de rigideces y de masas: "
+                               : "El número indicado al final de este mensaje, corresponde al tiempo en minutos que "
+                                 "tardará el programa en estimar la matriz de rigideces: ") +
           Formato(minutos, "#0.00"));
     }
   }

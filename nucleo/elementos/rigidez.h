@@ -28,6 +28,8 @@ struct CálculoElementos {
   std::vector<MatrizD> MatricesD;    // [e - 1]
   // Seconds from any fixed origin; the time estimate reads it. A test may put a clock of its own.
   std::function<double()> reloj;
+  // The seismic run: the same assembly, with the texts that speak of stiffness and masses.
+  bool sísmico = false;
   PuntoB& B(long e, int g) { return MatrizB[static_cast<std::size_t>((e - 1) * 3 + (g - 1))]; }
 };
 

@@ -2,6 +2,7 @@
 
 #include "pantallas/estratos_sismicos.h"
 #include "pantallas/frecuencias.h"
+#include "pantallas/grados_libertad.h"
 #include "pantallas/registro_sismico.h"
 #include "sismico/formas_modales.h"
 
@@ -10,6 +11,7 @@ namespace lomaterra {
 void EnlazarComandosSísmicos(std::map<std::string, Acción>& a) {
   a["InputDeRegistrosSísmico"] = InputDeRegistrosSísmico;
   a["GráficaDeRegistroSísmico"] = GráficaDeRegistroSísmico;
+  a["GradosDeLibertad"] = GradosDeLibertad;
   a["DeterminaciónDeLasFrecuencias"] = DeterminaciónDeLasFrecuencias;
   a["CálculoDeLoVectoresDeFormaModales"] = CálculoDeLoVectoresDeFormaModales;
   a["CaracterísticasDeLosEstratosParaElCálculoSísmico"] = CaracterísticasDeLosEstratosParaElCálculoSísmico;
