@@ -134,13 +134,19 @@ void EncabezadoDeTabla(QPainter& p, const QPaintDevice& d, const Marco& m, const
   const double alto = (líneas - 1) * m.alto;
   const double derecha = c.x.back() + c.ancho.back();
   p.fillRect(QRectF(m.cuerpo.left(), y, derecha - m.cuerpo.left(), alto), QColor(225, 232, 240));
-  p.setFont(Fuente(d, kPuntosCuerpo * c.escala, true));
+  const double puntos = kPuntosCuerpo * c.escala;
   for (std::size_t j = 0; j < t.columnas.size(); ++j) {
     const auto partes = PartirTexto(t.columnas[j], anchos[j] - 1);
     QString texto;
     for (std::size_t k = 0; k < partes.size(); ++k) texto += (k ? "\n" : "") + AQ(partes[k]);
-    p.drawText(QRectF(c.x[j] + 0.3 * m.ancho, y, c.ancho[j] - 0.6 * m.ancho, alto), Qt::AlignCenter,
-               texto);
+    // A long word in bold can outgrow a column sized by characters: its caption gets smaller
+    // rather than spill into the next one.
+    const double disponible = c.ancho[j] - 0.6 * m.ancho;
+    const QFontMetricsF fm(Fuente(d, puntos, true), &d);
+    double mayor = 0;
+    for (const auto& parte : partes) mayor = std::max(mayor, fm.horizontalAdvance(AQ(parte)));
+    p.setFont(Fuente(d, mayor > disponible ? puntos * disponible / mayor : puntos, true));
+    p.drawText(QRectF(c.x[j] + 0.3 * m.ancho, y, disponible, alto), Qt::AlignCenter, texto);
   }
   p.setPen(QPen(QColor(90, 90, 90), std::max(1.0, d.logicalDpiY() / 300.0)));
   p.drawLine(QPointF(m.cuerpo.left(), y), QPointF(derecha, y));

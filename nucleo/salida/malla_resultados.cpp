@@ -287,7 +287,9 @@ Figura FiguraDeMalla(const Proyecto& p, const std::string& nombre, long paso, do
     const bool vectores = nombre == "ElementoDesplazamientoDeLosNodos";
     f.título = vectores ? "Desplazamiento de los nodos" : "Malla deformada sobre la malla original";
     f.notas.push_back("Aumento de los desplazamientos: " + Formato(a, "#0.0") + " veces");
+    const std::size_t primero = f.trazos.size();
     MallaBase(p, f, kGris);
+    if (f.trazos.size() > primero) f.trazos[primero].leyenda = "Malla original";
     const std::vector<PuntoFigura> nodos = NodosDeformados(p, i, a);
     if (vectores) {
       for (long r = 1; r <= m.NúmeroDeNodos; ++r) {
