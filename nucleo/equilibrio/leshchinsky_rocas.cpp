@@ -414,8 +414,7 @@ void ProcesoIterativoEnRocas(Proyecto& p, Interfaz& ui) {
       cr.LiberarTablas();
       return;
     }
-    if (!(std::fabs(s.horizontal) > 0.001 || std::fabs(s.vertical) > 0.001 ||
-          std::fabs(s.momento) > 0.009)) {
+    if (SumasEnTolerancia(s)) {
       cr.GuardarResultados();
       ui.Mensaje(kTextoFinLeshchinskyRocas);
       return;
