@@ -66,6 +66,34 @@ struct DatosSísmicos {
   Entero AnchoBanda1 = 0, AnchoBanda2 = 0;
   std::vector<double> Banda1, Banda2;
 
+  // The damping ratio of each element and, per free degree in the condensed order, the element
+  // whose ratio it takes (the first element that holds its node). Built at the start of a run.
+  Tabla<double> RelaciónAmortiguamiento;
+  Tabla<long> ElementoDeGrado;
+  // Degree numbers (2n-1, resp. 2n) of the nodes free in x, resp. y; filled only after a run.
+  Tabla<long> ListaGradosX, ListaGradosY;
+  Entero NúmeroGradosX = 0, NúmeroGradosY = 0;
+
+  // The results of the last response run (Duhamel, step by step, or modal step by step), rows are
+  // record steps 1..PasosCalculados. By node degree (column 2n-1 along x, 2n along y of node n,
+  // over all nodes): displacements in metres during the run and centimetres after it, velocities
+  // in m/s, accelerations in m/s². By element (column e): strains, stresses (t/m²), principal
+  // stresses, the current shear modulus and Poisson ratio, the pore pressure under shaking.
+  Tabla2<double> DesplazamientoSísmico, VelocidadSísmica, AceleraciónSísmica;
+  Tabla2<double> DeformaciónX, DeformaciónY, DeformaciónXY, EsfuerzoX, EsfuerzoY, EsfuerzoXY,
+      EsfuerzoMayor, EsfuerzoMenor, MóduloCortanteActual, PoissonActual, PresiónPorosSísmica;
+  // The damping ratio of each element at each step, kept for the time histories.
+  Tabla2<double> RelaciónAmortiguamientoActual;
+  double DesplazamientoMáximo = 0;  // cm, largest magnitude over all steps and nodes
+  long NodoMáximo = 0, PasoMáximo = 0;
+  Tabla<double> DesplazamientoMáximoPorPaso;
+  long PasosCalculados = 0;
+  bool ResultadosSísmicos = false;
+  // What ended or marked the run, for the result screens and the report: a displacement reached
+  // the cut (10^4 m, or 10^5 m in the modal step by step), the 75% rule held, the user stopped it.
+  bool CorteAlcanzado = false, ReglaDel75 = false, CálculoInterrumpido = false;
+  char MétodoRespuesta = 0;  // 'D' Duhamel, 'P' step by step, 'M' modal step by step
+
   void Limpiar() { *this = DatosSísmicos{}; }
 };
 
