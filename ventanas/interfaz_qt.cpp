@@ -25,6 +25,7 @@
 #include "ayuda_qt.h"
 #include "salida_figura_qt.h"
 #include "vista_pantalla.h"
+#include "vista_resultados_sismicos.h"
 
 namespace lomaterra {
 
@@ -303,6 +304,7 @@ void InterfazQt::HacerAbrir(Pantalla& pantalla) {
   activando_ = anterior;
   if (!pantalla.cerrada) {
     vista.Refrescar();
+    AjustarVistaSísmica(vista);
     if (alMostrar_) {
       vista.show();
       alMostrar_(vista);

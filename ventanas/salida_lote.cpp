@@ -10,6 +10,7 @@
 #include "salida/malla_resultados.h"
 #include "salida/informe.h"
 #include "salida/resumen.h"
+#include "salida/resultados_sismicos.h"
 
 namespace lomaterra {
 
@@ -36,6 +37,15 @@ void PrepararDibujoSinVentana() {
 }
 
 bool EscribirInformeDeResultados(const Proyecto& p, const std::string& ruta, std::string& error) {
+  if (p.Sísmico.ResultadosSísmicos && p.Sísmico.PasosCalculados >= 1) {
+    PrepararDibujoSinVentana();
+    QString e;
+    if (!EscribirInformePDF(InformeSísmico(p), QString::fromStdString(ruta), &e)) {
+      error = e.toStdString();
+      return false;
+    }
+    return true;
+  }
   if (p.TipoDeAnálisis == "F" && p.CálculoHecho && p.Malla.NúmeroDeIteración >= 1) {
     PrepararDibujoSinVentana();
     QString e;

@@ -14,7 +14,8 @@ struct Proyecto;
 // QT_QPA_PLATFORM says otherwise. Call it before any drawing; harmless when one exists.
 void PrepararDibujoSinVentana();
 
-// Writes the results report of the last limit-equilibrium calculation to `ruta` (PDF). False with
+// Writes the results report of the last calculation to `ruta` (PDF): the seismic run, the
+// finite-element stresses or the limit-equilibrium method, whichever left results. False with
 // a Spanish message in `error` when there are no results or the file cannot be written.
 bool EscribirInformeDeResultados(const Proyecto& p, const std::string& ruta, std::string& error);
 

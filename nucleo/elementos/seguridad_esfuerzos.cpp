@@ -29,14 +29,29 @@ Resistencia ResistenciaDe(const Proyecto& p, long e) {
   return r;
 }
 
-// Stresses of the slice's element in column `paso`.
+}  // namespace
+
+double FuenteEsfuerzos::Leer(const Tabla2<double>& t, long e) const {
+  return porPaso ? t.Leer(columna, e) : t.Leer(e, columna);
+}
+
+FuenteEsfuerzos FuenteEsfuerzos::Estática(const MallaElementos& m, long columna) {
+  return {&m.EsfuerzoX, &m.EsfuerzoY, &m.EsfuerzoXY, columna, false};
+}
+
+FuenteEsfuerzos FuenteEsfuerzos::Sísmica(const DatosSísmicos& s, long paso) {
+  return {&s.EsfuerzoX, &s.EsfuerzoY, &s.EsfuerzoXY, paso, true};
+}
+
+namespace {
+
+// Stresses of the slice's element from the source.
 struct Base {
   double sx, sy, tau, W;
 };
-Base BaseDe(const Proyecto& p, const DovelasSobreMalla& d, long i, long paso) {
-  const MallaElementos& m = p.Malla;
+Base BaseDe(const FuenteEsfuerzos& f, const DovelasSobreMalla& d, long i) {
   const long e = d.elemento[static_cast<std::size_t>(i)];
-  Base b{m.EsfuerzoX.Leer(e, paso), m.EsfuerzoY.Leer(e, paso), m.EsfuerzoXY.Leer(e, paso), 0};
+  Base b{f.Leer(*f.x, e), f.Leer(*f.y, e), f.Leer(*f.xy, e), 0};
   b.W = -b.sy * d.ancho + b.tau * d.ancho * std::tan(d.alfa[static_cast<std::size_t>(i)]);
   return b;
 }
@@ -53,16 +68,18 @@ const char* const kTítuloDovela =
     "Condiciones que puedan ocurrir algunas veces cerca del pie del talud, en el que se ha supuesto una superficie de "
     "falla profunda";
 
-// The moment form on column `paso`; `elástico` is the second run on column 1, whose tension
-// branch adds the whole cohesion term. Nothing when a slice fails its check (message given).
-std::optional<double> FormaMomentos(const Proyecto& p, const DovelasSobreMalla& d, long paso, bool elástico, Interfaz& ui) {
+// The moment form on the stresses of `f`; `elástico` is the second run on column 1, whose tension
+// branch adds the whole cohesion term. Nothing when a slice fails its check (message given when
+// there is someone to tell).
+std::optional<double> FormaMomentos(const Proyecto& p, const DovelasSobreMalla& d, const FuenteEsfuerzos& f,
+                                    bool elástico, Interfaz* ui) {
   const double cx = d.cx, cy = d.cy;
   double F = p.ParámetrosIniciales.FSInicial;
   for (int k = 1;; ++k) {
     double num = 0, den = 0;
     for (long i = 1; i <= d.n; ++i) {
       const auto I = static_cast<std::size_t>(i);
-      const Base b = BaseDe(p, d, i, paso);
+      const Base b = BaseDe(f, d, i);
       const Resistencia r = ResistenciaDe(p, d.elemento[I]);
       const double a = d.alfa[I], bw = d.ancho;
       const double tracción = 0.2 * std::tan(kPi / 4 - r.fi / 2);
@@ -72,7 +89,7 @@ std::optional<double> FormaMomentos(const Proyecto& p, const DovelasSobreMalla& 
       else N += Div(std::tan(a) * bw * tracción * r.c, F);
       const double m = std::cos(a) + Div(std::sin(a) * r.t, F);
       if (!(m > 0.2)) {
-        ui.Mensaje(kMensajeDovela, kTítuloDovela);
+        if (ui) ui->Mensaje(kMensajeDovela, kTítuloDovela);
         return std::nullopt;
       }
       N /= m;
@@ -95,8 +112,9 @@ std::optional<double> FormaMomentos(const Proyecto& p, const DovelasSobreMalla& 
   }
 }
 
-// The force form on two columns side by side; returns the factors of both.
-std::pair<double, double> FormaFuerzas(const Proyecto& p, const DovelasSobreMalla& d, long paso, long otro) {
+// The force form on two stress sources side by side; returns the factors of both.
+std::pair<double, double> FormaFuerzas(const Proyecto& p, const DovelasSobreMalla& d, const FuenteEsfuerzos& f1,
+                                       const FuenteEsfuerzos& f2) {
   double F1 = p.ParámetrosIniciales.FSInicial, F2 = F1;
   for (int k = 1;; ++k) {
     double s1 = 0, d1 = 0, s2 = 0, d2 = 0;
@@ -105,7 +123,7 @@ std::pair<double, double> FormaFuerzas(const Proyecto& p, const DovelasSobreMall
       const Resistencia r = ResistenciaDe(p, d.elemento[I]);
       const double a = d.alfa[I], bw = d.ancho;
       for (int col = 0; col < 2; ++col) {
-        const Base b = BaseDe(p, d, i, col == 0 ? paso : otro);
+        const Base b = BaseDe(col == 0 ? f1 : f2, d, i);
         const double cb = b.W >= 0 ? r.c * bw : -0.2 * std::tan(kPi / 4 - r.fi / 2) * r.c * bw;
         const double A = cb + b.W * r.t;
         const double Dv = b.W * std::tan(a) - bw * b.sx * std::tan(a);
@@ -204,6 +222,48 @@ bool PrepararDovelasSobreMalla(Proyecto& p, DovelasSobreMalla& d) {
   return true;
 }
 
+namespace {
+
+// The checks after the question and the missing calculation, common to both commands: parameters,
+// failure surface, the radius of an arc (a warning only) and the method. False ends the command.
+bool PuertasComunes(const Proyecto& p, Interfaz& ui) {
+  if (!p.ParámetrosInicialesDados) {
+    ui.Mensaje("No se han dado los 'Parámetros para estimar el factor de seguridad' en elementos finitos",
+               "Parámetros para estimar factor de seguridad:");
+    return false;
+  }
+  if (!p.GeometríaFallaDefinida || p.NúmeroTramosFalla < 1) {
+    ui.Mensaje(
+        "Debe dar las coordenadas de la superficie potencial de falla y definir la geoemetría entre sus puntos. "
+        "Seleccione menú Coordenadas y luego Superficie potencial de falla. Luego vaya luego a la opción parámetros de "
+        "cálculo iniciales en Elementos finitos y cheque si ud dió el valor del radio y coordenadas del centro de "
+        "rotación, en caso de que la superficie de falla sea un arco de círculo.");
+    return false;
+  }
+  if (p.SuperficieCircular() && p.ParámetrosIniciales.Radio == 0)
+    ui.Mensaje(
+        "La superficie potencial de falla que ud. quiere analizar es un arco de círculo. Por favor, vaya a la opción "
+        "En Elementos finitos 'Parámetros para estimar el factor de seguridad' y dé el valor del radio de la "
+        "superficie potencial de falla.");
+  const Entero método = p.ParámetrosIniciales.MétodoDeCálculo;
+  return método == 2 || método == 4;
+}
+
+// The force form in rock first rewrites the strata's cohesion and friction from GSI.
+void ReescribirEstratosDeRoca(Proyecto& p) {
+  if (p.TipoDeMaterial != "R") return;
+  for (long s = 1; s <= p.NúmeroEstratos; ++s) {
+    const double gsi = p.Estrato.Parámetro_GSI.Leer(s);
+    if (!p.Estrato.Cohesión.Existe(s) || !p.Estrato.Fricción.Existe(s)) continue;
+    p.Estrato.Cohesión[s] = p.Estrato.C_Simple.Leer(s) * 0.013 * std::exp(0.026 * gsi);
+    p.Estrato.Fricción[s] = 0.424 * gsi - 0.0016 * gsi * gsi + 16 * Ln(p.Estrato.m_intacta.Leer(s));
+  }
+}
+
+const char* const kSinJanbu = "No es posible determinar el factor de seguridad a través del método de Janbu.";
+
+}  // namespace
+
 void FactorDeSeguridadDeslizamientoCálculoViscoplástico(Proyecto& p, Interfaz& ui) {
   MallaElementos& m = p.Malla;
   if (m.FSViscoplástico != 0 && m.NúmeroDeIteración > 2 &&
@@ -219,48 +279,24 @@ void FactorDeSeguridadDeslizamientoCálculoViscoplástico(Proyecto& p, Interfaz&
                "No hay cálculos:");
     return;
   }
-  if (!p.ParámetrosInicialesDados) {
-    ui.Mensaje("No se han dado los 'Parámetros para estimar el factor de seguridad' en elementos finitos",
-               "Parámetros para estimar factor de seguridad:");
-    return;
-  }
-  if (!p.GeometríaFallaDefinida || p.NúmeroTramosFalla < 1) {
-    ui.Mensaje(
-        "Debe dar las coordenadas de la superficie potencial de falla y definir la geoemetría entre sus puntos. "
-        "Seleccione menú Coordenadas y luego Superficie potencial de falla. Luego vaya luego a la opción parámetros de "
-        "cálculo iniciales en Elementos finitos y cheque si ud dió el valor del radio y coordenadas del centro de "
-        "rotación, en caso de que la superficie de falla sea un arco de círculo.");
-    return;
-  }
-  if (p.SuperficieCircular() && p.ParámetrosIniciales.Radio == 0)
-    ui.Mensaje(
-        "La superficie potencial de falla que ud. quiere analizar es un arco de círculo. Por favor, vaya a la opción "
-        "En Elementos finitos 'Parámetros para estimar el factor de seguridad' y dé el valor del radio de la "
-        "superficie potencial de falla.");
+  if (!PuertasComunes(p, ui)) return;
   const Entero método = p.ParámetrosIniciales.MétodoDeCálculo;
-  if (método != 2 && método != 4) return;
   m.OrigenEsfuerzos = "CálculoViscoPlástico";
   DovelasSobreMalla d;
   if (!PrepararDovelasSobreMalla(p, d)) return;
   const long último = m.NúmeroDeIteración;
   if (método == 2) {
-    const auto fv = FormaMomentos(p, d, último, false, ui);
+    const auto fv = FormaMomentos(p, d, FuenteEsfuerzos::Estática(m, último), false, &ui);
     if (!fv) return;
-    const auto fe = FormaMomentos(p, d, 1, true, ui);
+    const auto fe = FormaMomentos(p, d, FuenteEsfuerzos::Estática(m, 1), true, &ui);
     if (!fe) return;
     m.FSViscoplástico = *fv;
     m.FSElástico = *fe;
   } else {
-    if (p.TipoDeMaterial == "R")
-      for (long s = 1; s <= p.NúmeroEstratos; ++s) {
-        const double gsi = p.Estrato.Parámetro_GSI.Leer(s);
-        if (!p.Estrato.Cohesión.Existe(s) || !p.Estrato.Fricción.Existe(s)) continue;
-        p.Estrato.Cohesión[s] = p.Estrato.C_Simple.Leer(s) * 0.013 * std::exp(0.026 * gsi);
-        p.Estrato.Fricción[s] = 0.424 * gsi - 0.0016 * gsi * gsi + 16 * Ln(p.Estrato.m_intacta.Leer(s));
-      }
-    const auto [fv, fe] = FormaFuerzas(p, d, último, 1);
+    ReescribirEstratosDeRoca(p);
+    const auto [fv, fe] = FormaFuerzas(p, d, FuenteEsfuerzos::Estática(m, último), FuenteEsfuerzos::Estática(m, 1));
     if (fv < 0) {
-      ui.Mensaje("No es posible determinar el factor de seguridad a través del método de Janbu.", "Factor de seguridad:");
+      ui.Mensaje(kSinJanbu, "Factor de seguridad:");
       return;
     }
     m.FSViscoplástico = fv;
@@ -269,6 +305,71 @@ void FactorDeSeguridadDeslizamientoCálculoViscoplástico(Proyecto& p, Interfaz&
   ui.Mensaje("Factor de seguridad con los esfuerzos del último paso: " + Formato(m.FSViscoplástico, "#0.000") +
                  "\nFactor de seguridad con los esfuerzos elásticos: " + Formato(m.FSElástico, "#0.000"),
              "Factor de seguridad:");
+}
+
+long PasoDelFactorSísmico(const Proyecto& p) {
+  const DatosSísmicos& s = p.Sísmico;
+  return s.RegistroSeleccionado >= 1 && s.RegistroSeleccionado <= s.PasosCalculados ? s.RegistroSeleccionado
+                                                                                      : s.PasosCalculados;
+}
+
+std::optional<double> FactorSísmicoEnPaso(Proyecto& p, DovelasSobreMalla& d, long paso, Interfaz* ui) {
+  const FuenteEsfuerzos f = FuenteEsfuerzos::Sísmica(p.Sísmico, paso);
+  if (p.ParámetrosIniciales.MétodoDeCálculo == 2) return FormaMomentos(p, d, f, false, ui);
+  const double F = FormaFuerzas(p, d, f, f).first;
+  if (F < 0) {
+    if (ui) ui->Mensaje(kSinJanbu, "Factor de seguridad:");
+    return std::nullopt;
+  }
+  return F;
+}
+
+void FactorDeSeguridadDeslizamientoAnálisisSísmico(Proyecto& p, Interfaz& ui) {
+  MallaElementos& m = p.Malla;
+  DatosSísmicos& s = p.Sísmico;
+  if (m.FSSísmico != 0 &&
+      !ui.Pregunta("El factor de seguridad ya se estimó de los resultados de análisis sísmico. ¿Desea volver a calcularlo?"))
+    return;
+  if (!s.ResultadosSísmicos || s.PasosCalculados < 1) {
+    ui.Mensaje("No se ha hecho ningún cálculo de esfuerzos considerando análisis sísmico", "No hay cálculos:");
+    return;
+  }
+  if (!PuertasComunes(p, ui)) return;
+  m.OrigenEsfuerzos = "AnálisisSísmico";
+  DovelasSobreMalla d;
+  if (!PrepararDovelasSobreMalla(p, d)) return;
+  if (p.ParámetrosIniciales.MétodoDeCálculo == 4) ReescribirEstratosDeRoca(p);
+  const long paso = PasoDelFactorSísmico(p);
+  const auto F = FactorSísmicoEnPaso(p, d, paso, &ui);
+  if (!F) return;
+  m.FSSísmico = *F;
+  // The smallest factor found so far over the steps where it was computed, and its step.
+  if (s.FactorSísmicoMínimo == 0 || *F < s.FactorSísmicoMínimo) {
+    s.FactorSísmicoMínimo = *F;
+    s.PasoFactorSísmico = static_cast<Entero>(paso);
+  }
+  const std::string elegido =
+      s.RegistroSeleccionado == paso ? "" : " (no se eligió un registro en la pantalla de resultados: se usó el último calculado)";
+  ui.Mensaje("Factor de seguridad con los esfuerzos del registro " + std::to_string(paso) + ", a los " +
+                 Formato(s.TiempoRegistro.Leer(paso), "#0.000") + " seg: " + Formato(*F, "#0.00") + elegido,
+             "Factor de seguridad:");
+}
+
+std::vector<std::pair<long, double>> FactoresSísmicosPorPaso(Proyecto& p) {
+  std::vector<std::pair<long, double>> v;
+  DovelasSobreMalla d;
+  const Entero método = p.ParámetrosIniciales.MétodoDeCálculo;
+  if (!p.Sísmico.ResultadosSísmicos || (método != 2 && método != 4) || !PrepararDovelasSobreMalla(p, d)) return v;
+  if (método == 4) ReescribirEstratosDeRoca(p);
+  for (long t = 1; t <= p.Sísmico.PasosCalculados; ++t) {
+    // A step whose slices fail their check or whose sums vanish has no factor; the others keep theirs.
+    try {
+      const auto F = FactorSísmicoEnPaso(p, d, t, nullptr);
+      if (F && std::isfinite(*F)) v.push_back({t, *F});
+    } catch (const FalloAritmético&) {
+    }
+  }
+  return v;
 }
 
 }  // namespace lomaterra

@@ -4,6 +4,7 @@
 #include "pantallas/frecuencias.h"
 #include "pantallas/grados_libertad.h"
 #include "pantallas/registro_sismico.h"
+#include "pantallas/resultados_sismicos.h"
 #include "sismico/formas_modales.h"
 
 namespace lomaterra {
@@ -15,6 +16,7 @@ void EnlazarComandosSísmicos(std::map<std::string, Acción>& a) {
   a["DeterminaciónDeLasFrecuencias"] = DeterminaciónDeLasFrecuencias;
   a["CálculoDeLoVectoresDeFormaModales"] = CálculoDeLoVectoresDeFormaModales;
   a["CaracterísticasDeLosEstratosParaElCálculoSísmico"] = CaracterísticasDeLosEstratosParaElCálculoSísmico;
+  EnlazarComandosResultadosSísmicos(a);
 }
 
 }  // namespace lomaterra

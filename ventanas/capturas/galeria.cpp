@@ -43,6 +43,10 @@
 #include "salida_figura_qt.h"
 #include "ventana_principal_qt.h"
 #include "vista_pantalla.h"
+#include "vista_resultados_sismicos.h"
+#include "pantallas/resultados_sismicos.h"
+#include "proyecto/archivo.h"
+#include "salida/resultados_sismicos.h"
 
 using namespace lomaterra;
 
@@ -206,6 +210,112 @@ void TodasLasPantallas(const Proyecto& muestra, std::ofstream& transcripción) {
   Proyecto elementos;
   InterfazGuionada lector;
   if (LeerProyecto(elementos, LOMATERRA_EJEMPLO_ELEMENTOS, lector)) Pantallas(elementos, "elementos", transcripción);
+}
+
+// A seismic run on the finite-element sample, filled with a made-up response (a shaking that grows
+// with height, a record stopped before its end with the cut and the 75% rule marked, so that the
+// screen's longest texts show): the result screen after "Aceptar", the chart screen and every
+// chart and figure they open.
+void GaleríaSísmica() {
+  Proyecto p;
+  InterfazGuionada lector;
+  if (!LeerProyecto(p, LOMATERRA_EJEMPLO_ELEMENTOS, lector) || p.Malla.NúmeroDeNodos < 1) {
+    ++fallos;
+    return;
+  }
+  std::vector<FilaRegistro> filas;
+  const long T = 300;
+  for (long i = 0; i < T; ++i) {
+    const double t = 0.02 * static_cast<double>(i);
+    filas.push_back({t, 0.3 * std::exp(-0.8 * t) * std::sin(9.0 * t) * std::sin(1.3 * t + 0.4),
+                     0.12 * std::exp(-0.9 * t) * std::sin(13.0 * t)});
+  }
+  GuardarRegistro(p, filas);
+  MallaElementos& m = p.Malla;
+  DatosSísmicos& s = p.Sísmico;
+  const long nn = m.NúmeroDeNodos, ne = m.NúmeroDeElementos, pasos = T - 40;
+  double y0 = 1e300, y1 = -1e300;
+  for (long r = 1; r <= nn; ++r) y0 = std::min(y0, m.Nodo.YNodo[r]), y1 = std::max(y1, m.Nodo.YNodo[r]);
+  const double alto = std::max(1e-9, y1 - y0);
+  for (auto* t : {&s.DesplazamientoSísmico, &s.VelocidadSísmica, &s.AceleraciónSísmica}) t->Redimensionar(T, 2 * nn);
+  for (auto* t : {&s.EsfuerzoX, &s.EsfuerzoY, &s.EsfuerzoXY, &s.EsfuerzoMayor, &s.EsfuerzoMenor, &s.MóduloCortanteActual,
+                  &s.PresiónPorosSísmica, &s.RelaciónAmortiguamientoActual})
+    t->Redimensionar(T, ne);
+  s.DesplazamientoMáximoPorPaso.Redimensionar(T);
+  for (long k = 1; k <= pasos; ++k) {
+    const double t = s.TiempoRegistro[k], w = 7.0, env = 1 - std::exp(-0.6 * t);
+    for (long r = 1; r <= nn; ++r) {
+      const long n = m.Nodo.NúmeroDeNodo[r];
+      const double a = (m.Nodo.YNodo[r] - y0) / alto;
+      s.DesplazamientoSísmico(k, 2 * n - 1) = 4 * a * env * std::sin(w * t);
+      s.DesplazamientoSísmico(k, 2 * n) = -0.8 * a * env * std::sin(w * t + 0.5);
+      s.VelocidadSísmica(k, 2 * n - 1) = 0.04 * a * w * env * std::cos(w * t);
+      s.VelocidadSísmica(k, 2 * n) = -0.008 * a * w * env * std::cos(w * t + 0.5);
+      s.AceleraciónSísmica(k, 2 * n - 1) = -0.04 * a * w * w * env * std::sin(w * t) + 9.81 * s.AceleraciónHorizontal[k];
+      s.AceleraciónSísmica(k, 2 * n) = 0.008 * a * w * w * env * std::sin(w * t + 0.5) + 9.81 * s.AceleraciónVertical[k];
+      s.DesplazamientoMáximoPorPaso[k] = std::max(s.DesplazamientoMáximoPorPaso[k], std::abs(s.DesplazamientoSísmico(k, 2 * n - 1)));
+      if (s.DesplazamientoMáximoPorPaso[k] > s.DesplazamientoMáximo)
+        s.DesplazamientoMáximo = s.DesplazamientoMáximoPorPaso[k], s.NodoMáximo = n, s.PasoMáximo = k;
+    }
+    for (long e = 1; e <= ne; ++e) {
+      const double a = (m.Elemento.YCentroElemento[e] - y0) / alto, o = std::sin(w * t + 0.3);
+      const double sy = -1.8 * (1 - a) * alto + 1.5 * env * o, sx = 0.5 * sy, txy = 2 * (1 - a) * env * o;
+      s.EsfuerzoX(k, e) = sx, s.EsfuerzoY(k, e) = sy, s.EsfuerzoXY(k, e) = txy;
+      const double c = (sx + sy) / 2, r = std::sqrt((sx - sy) * (sx - sy) / 4 + txy * txy);
+      s.EsfuerzoMayor(k, e) = c + r, s.EsfuerzoMenor(k, e) = c - r;
+      s.MóduloCortanteActual(k, e) = 5000 * (1 - 0.5 * env * std::abs(o) * (1 - a));
+      s.RelaciónAmortiguamientoActual(k, e) = 0.05 + 0.15 * env * std::abs(o) * (1 - a);
+      s.PresiónPorosSísmica(k, e) = std::max(0.0, 0.6 * (1 - a) * alto * (1 + 0.3 * env * o));
+    }
+  }
+  s.PasosCalculados = pasos;
+  s.ResultadosSísmicos = s.CálculoInterrumpido = s.ReglaDel75 = s.CorteAlcanzado = true;
+  s.MétodoRespuesta = 'D';
+  m.FSSísmico = 1.234;
+
+  InterfazGuionada guion("N");
+  InterfazQt ui;
+  ui.Sustituto(&guion);
+  ui.AlMostrar([](VistaPantalla& vista) {
+    if (vista.pantalla().nombre == "FormResultadosSísmicos") {
+      vista.pantalla().texto("Texto_Del_Registro_Que_Ud_Ver") = "150";
+      vista.Refrescar();
+      vista.Pulsar("BotónAceptar");
+    }
+    Guardar(vista, vista.pantalla().nombre);
+    throw Corte{};
+  });
+  for (const char* orden : {"ResultadosDeEsfuerzosDesplazamientosPorSísmo"}) {
+    try {
+      if (const EntradaMenú* e = BuscarEntrada(ÁrbolDeMenús(), orden)) EjecutarComando(e->acción, p, ui);
+    } catch (const Corte&) {
+    }
+  }
+  try {
+    PantallaGráficasSísmicas g(p);
+    ui.Abrir(g);
+  } catch (const Corte&) {
+  }
+  const long nodo = s.NodoMáximo, elemento = ne / 2 + 1;
+  std::vector<std::pair<long, double>> factores;
+  for (long k = 1; k <= pasos; k += 5)
+    factores.push_back({k, 1.6 - 0.5 * (1 - std::exp(-0.6 * s.TiempoRegistro[k])) * std::abs(std::sin(7.0 * s.TiempoRegistro[k]))});
+  const std::vector<Figura> figuras = {
+      FiguraHistoriaNodo(p, nodo, MagnitudNodo::Aceleración, "Punto del desplazamiento máximo"),
+      FiguraHistoriaNodo(p, nodo, MagnitudNodo::Desplazamiento),
+      FiguraHistoriaNodo(p, nodo, MagnitudNodo::Velocidad),
+      FiguraEsfuerzosElemento(p, elemento),
+      FiguraDegradaciónElemento(p, elemento),
+      FiguraDesplazamientoMáximoPorPaso(p),
+      FiguraFactorSísmicoPorPaso(p, factores),
+      FiguraDeMallaSísmica(p, "MallaDeformada", 150),
+      FiguraDeMallaSísmica(p, "EsfuerzosTauXYVsElementos", 150)};
+  for (const Figura& f : figuras) {
+    if (!ExportarPNG(f, QDir(carpeta).filePath(Q("figura_" + f.nombre) + ".png"), nullptr)) ++fallos;
+    QDialog* diálogo = CrearDiálogoFigura(nullptr, f);
+    Guardar(*diálogo, "diálogo_" + f.nombre);
+    delete diálogo;
+  }
 }
 
 }  // namespace
@@ -510,6 +620,7 @@ int main(int argc, char** argv) {
     VistaPantalla vista(pantalla, mudo);
     Guardar(vista, "vista_genérica");
   }
+  GaleríaSísmica();
   std::ofstream transcripción(QDir(carpeta).filePath("transcripcion.txt").toStdString());
   TodasLasPantallas(muestra, transcripción);
   std::printf("%zu imágenes en %s\n", guardadas.size(), carpeta.toUtf8().constData());
