@@ -3,7 +3,8 @@
 again through the program's own writer) and its record side file:
 
   python3 scripts/generar_ejemplo_presa.py /tmp/borrador.cod
-  build/normal/lote/lomaterra-lote /tmp/borrador.cod --guardar ejemplos/presa_sismica.cod
+  build/normal/lote/lomaterra-lote /tmp/borrador.cod ElementoConSuNúmeroCorrespondiente \
+      --guardar ejemplos/presa_sismica.cod
 
 An earth dam 10 m high, crest 8 m wide, both faces at 2 horizontal to 1 vertical (base 48 m),
 reservoir 8 m deep on the side of the larger abscissas. Linear triangles on 10 vertical lines of
@@ -34,7 +35,7 @@ def registro():
         envolvente = (t / 1.0) * math.exp(1.0 - t / 1.0)
         h = 0.15 * envolvente * math.sin(2 * math.pi * 2.0 * t)
         v = 0.10 * envolvente * math.sin(2 * math.pi * 3.0 * t + 0.5)
-        filas.append((round(t, 2), round(h, 5), round(v, 5)))
+        filas.append((round(t, 2), round(h, 5) + 0.0, round(v, 5) + 0.0))
     return filas
 
 
@@ -164,7 +165,7 @@ def main(ruta):
                            "CarpetaRegistroSismico", "registrosismico.cod")
     os.makedirs(os.path.dirname(lateral), exist_ok=True)
     with open(lateral, "wb") as f:
-        lineas = [str(len(filas))] + ["%.15g,%.15g,%.15g" % r for r in filas]
+        lineas = [str(len(filas))] + [("%.15g,%.15g,%.15g" % r).upper() for r in filas]
         f.write(("\r\n".join(lineas) + "\r\n").encode("ascii"))
 
 
