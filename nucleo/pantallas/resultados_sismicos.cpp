@@ -327,6 +327,7 @@ bool PantallaGráficasSísmicas::LeerPaso(long& k, Interfaz& ui) {
 // --- Menu commands -------------------------------------------------------------------------------
 
 void ResultadosDeEsfuerzosDesplazamientosPorSísmo(Proyecto& p, Interfaz& ui) {
+  if (!HayResultadosSísmicos(p, ui)) return;
   PantallaResultadosSísmicos f(p);
   ui.Abrir(f);
 }

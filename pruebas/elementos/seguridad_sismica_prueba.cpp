@@ -34,6 +34,7 @@ Proyecto Caso() {
   p.Estrato.RedimensionarConservando(1);
   p.Estrato.Cohesión[1] = 6;
   p.Sísmico.EsfuerzoX(3, 1) = p.Sísmico.EsfuerzoX(3, 2) = -4;
+  p.Sísmico.EsfuerzoXY(2, 2) = 0;
   return p;
 }
 
