@@ -46,22 +46,33 @@ void BotonesEnFilas(VistaPantalla& vista) {
   vertical->insertLayout(dónde, rejilla);
 }
 
-}  // namespace
-
-void AjustarVistaSísmica(VistaPantalla& vista) {
-  if (vista.pantalla().nombre == "FormGráficasSísmicas") BotonesEnFilas(vista);
-  const auto* r = dynamic_cast<const PantallaResultadosSísmicos*>(&vista.pantalla());
-  if (!r) return;
-  for (const ListaPantalla& l : r->listas) {
+// The headings of the result screen over its two lists.
+void Encabezados(VistaPantalla& vista, const PantallaResultadosSísmicos& r) {
+  for (const ListaPantalla& l : r.listas) {
     auto* tabla = vista.findChild<QTableWidget*>(Q(l.nombre));
     if (!tabla || vista.findChild<QLabel*>(Q("Encabezado:" + l.nombre))) continue;
     auto* diseño = tabla->parentWidget() ? qobject_cast<QBoxLayout*>(tabla->parentWidget()->layout()) : nullptr;
     if (!diseño) continue;
-    auto* encabezado = new QLabel(Q(r->Encabezado(l.nombre)), tabla->parentWidget());
+    auto* encabezado = new QLabel(Q(r.Encabezado(l.nombre)), tabla->parentWidget());
     encabezado->setObjectName(Q("Encabezado:" + l.nombre));
     encabezado->setTextFormat(Qt::PlainText);
     encabezado->setStyleSheet("font-weight: bold; color: #2b4a6b;");
     diseño->insertWidget(diseño->indexOf(tabla), encabezado);
+    // Two lists and their headings under the note and the boxes: each list a little shorter than
+    // the generic view makes it, so that the screen fits a laptop's height.
+    tabla->setMinimumHeight(170);
+  }
+}
+
+}  // namespace
+
+void AjustarVistaSísmica(VistaPantalla& vista) {
+  if (vista.pantalla().nombre == "FormGráficasSísmicas") BotonesEnFilas(vista);
+  if (const auto* r = dynamic_cast<const PantallaResultadosSísmicos*>(&vista.pantalla())) {
+    Encabezados(vista, *r);
+    // The window grows to what its controls now need.
+    if (vista.layout()) vista.layout()->activate();
+    vista.resize(vista.size().expandedTo(vista.sizeHint()));
   }
 }
 
