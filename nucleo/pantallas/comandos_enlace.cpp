@@ -24,6 +24,7 @@
 #include "elementos/refinamiento.h"
 #include "pantallas/resultados.h"
 #include "pantallas/comandos_sismicos.h"
+#include "pantallas/resultados_sismicos.h"
 #include "pantallas/resultados_esfuerzos.h"
 #include "elementos/plastico.h"
 #include "elementos/seguridad_esfuerzos.h"
@@ -92,6 +93,7 @@ void EnlazarComandos(std::map<std::string, Acción>& a) {
   a["ImprimirInformaciónDadaAlPrograma"] = ImprimirInformaciónDadaAlPrograma;
   a["ImprimirResultadosAnálisisMétodosEquilibrioLímites"] = ImprimirResultadosAnálisisMétodosEquilibrioLímites;
   EnlazarComandosSísmicos(a);
+  EnlazarComandosResultadosSísmicos(a);
   a["CálculoEsfuerzosComportamientoViscoplástico"] = [](Proyecto& p, Interfaz& ui) { CálculoEsfuerzosComportamientoViscoplástico(p, ui); };
   a["CálculoEsfuerzosComportamientoPlástico"] = [](Proyecto& p, Interfaz& ui) { CálculoEsfuerzosComportamientoPlástico(p, ui); };
   a["FactorDeSeguridadDeslizamientoCálculoViscoplástico"] = FactorDeSeguridadDeslizamientoCálculoViscoplástico;

@@ -4,7 +4,6 @@
 #include "pantallas/frecuencias.h"
 #include "pantallas/grados_libertad.h"
 #include "pantallas/registro_sismico.h"
-#include "pantallas/resultados_sismicos.h"
 #include "sismico/formas_modales.h"
 
 namespace lomaterra {
@@ -16,7 +15,6 @@ void EnlazarComandosSísmicos(std::map<std::string, Acción>& a) {
   a["DeterminaciónDeLasFrecuencias"] = DeterminaciónDeLasFrecuencias;
   a["CálculoDeLoVectoresDeFormaModales"] = CálculoDeLoVectoresDeFormaModales;
   a["CaracterísticasDeLosEstratosParaElCálculoSísmico"] = CaracterísticasDeLosEstratosParaElCálculoSísmico;
-  EnlazarComandosResultadosSísmicos(a);
 }
 
 }  // namespace lomaterra
