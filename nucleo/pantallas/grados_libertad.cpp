@@ -7,11 +7,6 @@
 
 namespace lomaterra {
 
-MatricesSísmicas& MatricesSísmicasEnMemoria() {
-  static MatricesSísmicas matrices;
-  return matrices;
-}
-
 void GradosDeLibertad(Proyecto& p, Interfaz& ui) {
   MallaElementos& m = p.Malla;
   DatosSísmicos& s = p.Sísmico;
@@ -54,6 +49,7 @@ void GradosDeLibertad(Proyecto& p, Interfaz& ui) {
                     "opción?.")) {
       FormEstratosSísmicos f(p);
       ui.Abrir(f);
+      s.OfertaEstratosUsada = true;
     }
     p.DesembalseRápido = ui.Pregunta(
         "¿Está haciendo análisis de DESEMBALSE RÁPIDO (sí la respuesta es NO, el análisis se hace para embalse "
@@ -67,7 +63,7 @@ void GradosDeLibertad(Proyecto& p, Interfaz& ui) {
       t->Borrar();
     m.DesplazamientosHechos = false;
   }
-  DeterminarGradosDeLibertad(p, ui, MatricesSísmicasEnMemoria());
+  DeterminarGradosDeLibertad(p, ui, MatricesSísmicasEnMemoria(p));
 }
 
 }  // namespace lomaterra

@@ -6,11 +6,7 @@ namespace lomaterra {
 
 struct Proyecto;
 class Interfaz;
-struct MatricesSísmicas;
 
 void GradosDeLibertad(Proyecto& p, Interfaz& ui);
-
-// The matrices of the whole mesh from the last run; they live while the program runs.
-MatricesSísmicas& MatricesSísmicasEnMemoria();
 
 }  // namespace lomaterra
