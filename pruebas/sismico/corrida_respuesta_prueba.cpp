@@ -158,7 +158,7 @@ TEST(CorridaRespuesta, ArchivoDeUnaCorridaIdaYVuelta) {
   MétodoIntegralDuhamel(p, ui);
   const std::string carpeta = pruebas::CarpetaTemporal(), uno = carpeta + "/uno.cod", dos = carpeta + "/dos.cod";
   ASSERT_TRUE(GuardarProyecto(p, uno, ui));
-  Proyecto q;
+  Proyecto q = p;  // holds this run's element matrices until the read resets it
   ASSERT_TRUE(LeerProyecto(q, uno, ui));
   const DatosSísmicos &a = p.Sísmico, &b = q.Sísmico;
   EXPECT_TRUE(b.ResultadosSísmicos);
@@ -173,7 +173,7 @@ TEST(CorridaRespuesta, ArchivoDeUnaCorridaIdaYVuelta) {
   }
   EXPECT_NEAR(b.DesplazamientoMáximo, a.DesplazamientoMáximo, 1e-12);
   EXPECT_EQ(b.PasoMáximo, a.PasoMáximo);
-  EXPECT_EQ(q.Sísmico.MatricesEnMemoria, nullptr);  // a project read holds no element matrices
+  EXPECT_EQ(q.Sísmico.MatricesEnMemoria, nullptr);  // an opened project holds no other's element matrices
   ASSERT_TRUE(GuardarProyecto(q, dos, ui));
   EXPECT_EQ(pruebas::LeerArchivo(dos), pruebas::LeerArchivo(uno));
 }
