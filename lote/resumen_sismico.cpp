@@ -69,7 +69,8 @@ std::string SísmicoComoJson(const Proyecto& p, const std::optional<SelecciónHi
                        : d.MétodoRespuesta == 'M' ? "PasoAPasoDesacoplado"
                                                    : "";
   std::ostringstream s;
-  s << "{\n    \"Método\": " << TextoJson(método) << ", \"PasosCalculados\": " << pasos
+  // A run read back from a project file does not say which method made it.
+  s << "{\n    \"Método\": " << (*método ? TextoJson(método) : std::string("null")) << ", \"PasosCalculados\": " << pasos
     << ", \"CorteAlcanzado\": " << (d.CorteAlcanzado ? "true" : "false")
     << ", \"ReglaDel75\": " << (d.ReglaDel75 ? "true" : "false")
     << ", \"CálculoInterrumpido\": " << (d.CálculoInterrumpido ? "true" : "false") << ",\n";
