@@ -6,7 +6,12 @@ namespace lomaterra {
 
 struct Proyecto;
 class Interfaz;
+struct MatricesSísmicas;
 
 void GradosDeLibertad(Proyecto& p, Interfaz& ui);
+
+// The matrices that this command assembled last, those of the project that ran it (empty before
+// the first run). The response runs read the ones kept in their own project, never these.
+MatricesSísmicas& MatricesSísmicasEnMemoria();
 
 }  // namespace lomaterra
