@@ -3,7 +3,7 @@
 //
 //   lomaterra-lote PROYECTO.cod COMANDO [COMANDO ...] [--respuestas SNSN...] [--por-defecto S|N]
 //                  [--json SALIDA.json] [--guardar OTRO.cod] [--pdf INFORME.pdf]
-//                  [--figura NOMBRE=ARCHIVO.png|.svg ...]
+//                  [--figura NOMBRE=ARCHIVO.png|.svg ...] [--historias NODOS:ELEMENTOS]
 //
 // Each yes/no question takes the next letter of --respuestas, then the --por-defecto answer; a
 // screen that a command opens is closed with its exit button and no change. Every box is printed
@@ -26,6 +26,7 @@
 #include "proyecto/secuencial.h"
 #include "resumen.h"
 #include "resumen_elementos.h"
+#include "resumen_sismico.h"
 #include "resumen_modos.h"
 #include "salida/graficos.h"
 #include "salida/formas_modales.h"
@@ -120,6 +121,7 @@ int UsoIncorrecto(const std::string& mensaje) {
 std::string ComprobarComandos(const std::vector<EntradaMenú>& árbol, const std::vector<std::string>& comandos) {
   for (const auto& c : comandos) {
     const EntradaMenú* e = BuscarEntrada(árbol, c);
+    if (!e && ComandosSinMenú().count(c)) continue;
     if (!e) return "Comando desconocido: " + c + ". Los comandos se nombran por el nombre de control del menú (por ejemplo MétodoFellenius).";
     if (e->EsSubmenú) return c + " es un menú, no un comando: nombre uno de sus comandos.";
     if (!e->acción) return "El comando " + c + " todavía no está disponible en esta versión de Lomaterra.";
@@ -228,12 +230,20 @@ int Correr(const std::vector<std::string>& argumentos) {
   }
   if (auto error = SalidaSobreElProyecto(o); !error.empty()) return UsoIncorrecto(error);
 
+  std::optional<SelecciónHistorias> historias;
+  if (o.historias) {
+    historias.emplace();
+    if (auto error = LeerSelecciónHistorias(*o.historias, *historias); !error.empty()) return UsoIncorrecto(error);
+  }
+
   Proyecto p;
   InterfazLote ui(o.respuestas, o.porDefecto);
   if (!LeerProyecto(p, o.proyecto, ui)) {
     std::cerr << "lomaterra-lote: no se pudo leer el proyecto \"" << o.proyecto << "\".\n";
     return kUsoIncorrecto;
   }
+  if (historias)
+    if (auto error = FueraDeLaMalla(*historias, p); !error.empty()) return UsoIncorrecto(error);
   // As the Open command leaves the window.
   p.Ventana.NombreArchivo = o.proyecto;
   p.Ventana.Título = TítuloDeArchivo(o.proyecto) + " - Lomaterra";
@@ -250,7 +260,7 @@ int Correr(const std::vector<std::string>& argumentos) {
         const std::string error = CorrerBúsqueda(p, ui, o.búsqueda, búsqueda);
         if (!error.empty()) return UsoIncorrecto(error + ".");
       } else {
-        fin = EjecutarComando(e->acción, p, ui);
+        fin = EjecutarComando(e ? e->acción : ComandosSinMenú().at(c), p, ui);
       }
     } catch (const std::exception& ex) {
       ui.Emitir();
@@ -312,6 +322,7 @@ int Correr(const std::vector<std::string>& argumentos) {
   if (o.json) {
     InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, "", ""};
     informe.elementos = ElementosComoJson(p);
+    informe.sísmico = SísmicoComoJson(p, historias);
     informe.modos = ModosComoJson(p);
     std::string motivo;
     if (!EscribirArchivoCompleto(*o.json, InformeComoJson(informe), &motivo)) {

@@ -7,10 +7,12 @@ namespace lomaterra::lote {
 const char* const kUso =
     "Uso: lomaterra-lote PROYECTO.cod COMANDO [COMANDO ...] [--respuestas SNSN...] "
     "[--por-defecto S|N] [--json SALIDA.json] [--guardar OTRO.cod] [--pdf INFORME.pdf] "
-    "[--figura NOMBRE=ARCHIVO.png|.svg ...]\n"
+    "[--figura NOMBRE=ARCHIVO.png|.svg ...] [--historias NODOS:ELEMENTOS]\n"
     "\n"
     "Lee el proyecto, corre los comandos del menú por su nombre de control (por ejemplo\n"
     "MétodoFellenius) y muestra lo que cada comando dijo y un resumen de los resultados.\n"
+    "PasoAPasoDesacoplado, el cálculo sísmico paso a paso por modos desacoplados, no está en\n"
+    "el menú y se corre solo por su nombre.\n"
     "\n"
     "  --respuestas SNSN...  responde a las preguntas, en orden, con S (sí) o N (no)\n"
     "  --por-defecto S|N     respuesta cuando se acaban las letras (N si no se da)\n"
@@ -29,7 +31,10 @@ const char* const kUso =
     "                        divisionesX, divisionesY, radioMínimo, radioMáximo, pasoRadio,\n"
     "                        cotasTangencia [..], dovelas, método \"Bishop\"|\"Janbu\",\n"
     "                        xSalidaMínima, xSalidaMáxima, hilos, usar true|false\n"
-    "  --ayuda               muestra este texto\n"
+    "  --historias NODOS:ELEMENTOS\n"
+    "                        limita las historias sísmicas del JSON a esos nodos y elementos\n"
+    "                        (por ejemplo 3,7:1,2); sin ella van todos\n"
+  "  --ayuda               muestra este texto\n"
     "\n"
     "Estado de salida: 0 los comandos corrieron (digan lo que digan sus mensajes); 1 una falla\n"
     "no prevista terminó un comando, o no se pudo guardar lo pedido; 2 uso incorrecto o proyecto\n"
@@ -97,6 +102,11 @@ const std::vector<OpciónConValor>& TablaOpciones() {
       {"--rigidez-json",
        [](const std::string& v, Opciones& o) -> std::string {
          o.rigidezJson = v;
+         return "";
+       }},
+      {"--historias",
+       [](const std::string& v, Opciones& o) -> std::string {
+         o.historias = v;
          return "";
        }},
       {"--guardar",

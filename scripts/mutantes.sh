@@ -81,7 +81,7 @@ correr() {
 probar() {
   local area=$1 t
   local propio="prueba_$area"
-  [ "$area" = "pantallas" ] || [ "$area" = "proyecto" ] || [ "$area" = "salida" ] || [ "$area" = "equilibrio" ] || propio=""
+  case $area in pantallas|proyecto|salida|equilibrio|elementos|sismico) ;; *) propio="" ;; esac
   if [ -n "$propio" ]; then
     compilar "$propio" || return 2
     correr "$propio" || return 1

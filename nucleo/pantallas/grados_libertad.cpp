@@ -1,5 +1,7 @@
 #include "pantallas/grados_libertad.h"
 
+#include <memory>
+
 #include "pantallas/estratos_sismicos.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
@@ -7,9 +9,18 @@
 
 namespace lomaterra {
 
+namespace {
+
+std::shared_ptr<MatricesSísmicas>& Últimas() {
+  static std::shared_ptr<MatricesSísmicas> m;
+  return m;
+}
+
+}  // namespace
+
 MatricesSísmicas& MatricesSísmicasEnMemoria() {
-  static MatricesSísmicas matrices;
-  return matrices;
+  if (!Últimas()) Últimas() = std::make_shared<MatricesSísmicas>();
+  return *Últimas();
 }
 
 void GradosDeLibertad(Proyecto& p, Interfaz& ui) {
@@ -54,6 +65,7 @@ void GradosDeLibertad(Proyecto& p, Interfaz& ui) {
                     "opción?.")) {
       FormEstratosSísmicos f(p);
       ui.Abrir(f);
+      s.OfertaEstratosUsada = true;
     }
     p.DesembalseRápido = ui.Pregunta(
         "¿Está haciendo análisis de DESEMBALSE RÁPIDO (sí la respuesta es NO, el análisis se hace para embalse "
@@ -67,7 +79,8 @@ void GradosDeLibertad(Proyecto& p, Interfaz& ui) {
       t->Borrar();
     m.DesplazamientosHechos = false;
   }
-  DeterminarGradosDeLibertad(p, ui, MatricesSísmicasEnMemoria());
+  DeterminarGradosDeLibertad(p, ui, MatricesSísmicasEnMemoria(p));
+  Últimas() = p.Sísmico.MatricesEnMemoria;
 }
 
 }  // namespace lomaterra

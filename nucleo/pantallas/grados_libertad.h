@@ -10,7 +10,8 @@ struct MatricesSísmicas;
 
 void GradosDeLibertad(Proyecto& p, Interfaz& ui);
 
-// The matrices of the whole mesh from the last run; they live while the program runs.
+// The matrices that this command assembled last, those of the project that ran it (empty before
+// the first run). The response runs read the ones kept in their own project, never these.
 MatricesSísmicas& MatricesSísmicasEnMemoria();
 
 }  // namespace lomaterra

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "proyecto/archivo.h"
+#include "proyecto/historia_sismica.h"
 
 namespace lomaterra {
 
@@ -518,6 +519,7 @@ void LeerCuerpoF(LectorSecuencial& l, Proyecto& p) {
     s.FactorSísmicoMínimo = l.LeerReal();
     s.PasoFactorSísmico = l.LeerEntero();
     s.ElementoFactorSísmico = l.LeerEntero();
+    ResultadosDesdeHistoria(p);
   }
   for (long el = 1; el <= m.ProfundidadFreático.Tamaño(); ++el)
     if (m.ProfundidadFreático[el] > 0) {

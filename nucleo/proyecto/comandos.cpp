@@ -159,6 +159,12 @@ std::vector<EntradaMenú> ÁrbolDeMenús() {
   return árbol;
 }
 
+std::map<std::string, Acción> ComandosSinMenú() {
+  std::map<std::string, Acción> acciones;
+  EnlazarComandosSinMenú(acciones);
+  return acciones;
+}
+
 const EntradaMenú* BuscarEntrada(const std::vector<EntradaMenú>& árbol, const std::string& nombre) {
   for (const auto& e : árbol)
     if (e.nombre == nombre) return &e;

@@ -31,6 +31,11 @@ const EntradaMenú* BuscarEntrada(const std::vector<EntradaMenú>& árbol, const
 // Binds control names to commands: one line a command, filled by the areas of the core.
 void EnlazarComandos(std::map<std::string, Acción>& acciones);
 
+// Commands with no menu entry, reachable by their name only (lomaterra-lote runs them): bound by
+// the core as the menu commands are, and gathered by ComandosSinMenú.
+void EnlazarComandosSinMenú(std::map<std::string, Acción>& acciones);
+std::map<std::string, Acción> ComandosSinMenú();
+
 enum class FinDeComando { Normal, Fallo };
 
 // Runs a command to its end. An unforeseen arithmetic fault ends it with a clear message, and the

@@ -4,11 +4,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "proyecto/tabla.h"
 
 namespace lomaterra {
+
+struct MatricesSísmicas;
 
 struct DatosSísmicos {
   using Entero = std::int16_t;
@@ -93,6 +96,13 @@ struct DatosSísmicos {
   // the cut (10^4 m, or 10^5 m in the modal step by step), the 75% rule held, the user stopped it.
   bool CorteAlcanzado = false, ReglaDel75 = false, CálculoInterrumpido = false;
   char MétodoRespuesta = 0;  // 'D' Duhamel, 'P' step by step, 'M' modal step by step
+
+  // The stiffness and mass of every element and the load vectors of the whole mesh from the last
+  // assembly of this project. They live in memory only: a reset (New, Open) lets them go, so a
+  // project never runs on the matrices of another. And whether the dam questions already offered
+  // the strata screen.
+  std::shared_ptr<MatricesSísmicas> MatricesEnMemoria;
+  bool OfertaEstratosUsada = false;
 
   void Limpiar() { *this = DatosSísmicos{}; }
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <tuple>
 
 #include "elementos/rigidez.h"
@@ -116,6 +117,7 @@ bool ElementoTriangularSismico(Proyecto& p, Interfaz& ui, MatricesSísmicas& s) 
   for (long d = 1; d <= nd; ++d) s.VectorCargasGlobal[static_cast<std::size_t>(d)] = m.VectorDeCargas.Leer(d);
   s.CargaAguaPoros.assign(static_cast<std::size_t>(nd + 1), 0.0);
   s.CargaEmbalse = s.EsfuerzoEfectivoNodal = s.CargaAguaPoros;
+  s.MatrizB = c.MatrizB;
 
   const bool suelo = p.TipoDeMaterial == "S";
   const double t = m.EspesorAnálisis;
@@ -338,6 +340,19 @@ bool CondensarMatrices(Proyecto& p, Interfaz& ui, MatricesSísmicas& s) {
   d.MatricesSísmicasDadas = true;
   p.DatosGuardados = false;
   return true;
+}
+
+MatricesSísmicas& MatricesSísmicasEnMemoria(Proyecto& p) {
+  auto& m = p.Sísmico.MatricesEnMemoria;
+  if (!m) m = std::make_shared<MatricesSísmicas>();
+  return *m;
+}
+
+bool MatricesEnMemoriaVigentes(const Proyecto& p) {
+  const auto& m = p.Sísmico.MatricesEnMemoria;
+  return m && m->grados == 2L * p.Malla.NúmeroDeNodos && m->grados > 0 &&
+         static_cast<long>(m->Libres.size()) == p.Sísmico.NúmeroGradosLibertad &&
+         static_cast<long>(m->Elementos.size()) == p.Malla.NúmeroDeElementos;
 }
 
 bool DeterminarGradosDeLibertad(Proyecto& p, Interfaz& ui, MatricesSísmicas& s) {

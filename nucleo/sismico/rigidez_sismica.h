@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "elementos/elemento.h"
 #include "sismico/amortiguamiento.h"
 
 namespace lomaterra {
@@ -24,6 +25,7 @@ struct MatricesSísmicas {
   std::vector<double> MatrizRigidezGlobal, MatrizMasaGlobal;
   std::vector<double> VectorCargasGlobal, CargaAguaPoros, CargaEmbalse, EsfuerzoEfectivoNodal;
   std::vector<MatricesElemento> Elementos;  // stiffness and lumped mass of each element
+  std::vector<PuntoB> MatrizB;  // B of each element and integration point: [(e - 1) * 3 + (g - 1)]
   // After the condensation: the free degrees (global numbers in the condensed order) and the
   // condensed loads.
   std::vector<long> Libres;
@@ -50,6 +52,11 @@ bool CondensarMatrices(Proyecto& p, Interfaz& ui, MatricesSísmicas& s);
 // modulus, Poisson ratio, moist unit weight, shear wave velocity and maximum shear modulus, in the
 // order of `libres`.
 void PropiedadesDeLosGrados(Proyecto& p, const std::vector<long>& libres);
+
+// The matrices of the whole mesh of this project, kept in its state while the program runs (made
+// empty the first time); and whether they are there and fit the condensed degrees of the project.
+MatricesSísmicas& MatricesSísmicasEnMemoria(Proyecto& p);
+bool MatricesEnMemoriaVigentes(const Proyecto& p);
 
 // The command: `ElementoTriangularSismico`, then `CondensarMatrices`, with the closing message.
 // The command's gates and questions stand before it.

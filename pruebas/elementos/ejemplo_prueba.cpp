@@ -1,5 +1,5 @@
-// The sample slope of linear triangles: it opens, its loads add up to its weight, the two stores
-// give the same displacements, and it refines to four times its elements.
+// The sample slope of linear triangles: it opens, its loads add up to its weight, its crest
+// settles, and it refines to four times its elements.
 #include <gtest/gtest.h>
 
 #include "apoyo/apoyo.h"
@@ -12,7 +12,7 @@
 namespace lomaterra {
 namespace {
 
-TEST(EjemploElementos, PesoDosAlmacenesYRefinamiento) {
+TEST(EjemploElementos, PesoAsientoYRefinamiento) {
   Proyecto p;
   InterfazGuionada ui;
   ASSERT_TRUE(LeerProyecto(p, pruebas::RutaEjemplo("talud_elementos.cod"), ui));
@@ -28,25 +28,18 @@ TEST(EjemploElementos, PesoDosAlmacenesYRefinamiento) {
              (t.XElemento(e, 3) - t.XElemento(e, 1)) * (t.YElemento(e, 2) - t.YElemento(e, 1))) / 2;
   }
   EXPECT_NEAR(área, 625.0, 0.5);
-  std::vector<double> u[2];
-  for (int t = 0; t < 2; ++t) {
-    Proyecto q = p;
-    CálculoElementos c;
-    c.tipo = t == 0 ? TipoAlmacén::Denso : TipoAlmacén::Perfil;
-    c.reloj = [] { return 0.0; };
-    ASSERT_TRUE(Elementotriangular(q, ui, c));
-    // No water and Ko = 0.5: the y loads are the weight, 1.8 · area; x loads are the Ko forces.
-    double fy = 0;
-    for (long n = 1; n <= q.Malla.NúmeroDeNodos; ++n) fy += q.Malla.VectorDeCargas[2 * n];
-    EXPECT_NEAR(fy, -1.8 * área, 1e-9 * área);
-    ASSERT_TRUE(ModificarYFactorizar(q, *c.MatrizRigidez, ui, kMensajeDiagonalCeroViscoplástico));
-    u[t] = DesplazamientosElásticos(q, *c.MatrizRigidez);
-  }
-  double mayor = 0;
-  for (double v : u[0]) mayor = std::max(mayor, std::abs(v));
-  for (std::size_t d = 1; d < u[0].size(); ++d) EXPECT_NEAR(u[1][d], u[0][d], 1e-9 * mayor);
+  // No water and Ko = 0.5: the y loads are the weight, 1.8 · area. (The two stores agree on random
+  // meshes; the skyline one is used here.)
+  Proyecto q = p;
+  CálculoElementos c;
+  c.reloj = [] { return 0.0; };
+  ASSERT_TRUE(Elementotriangular(q, ui, c));
+  double fy = 0;
+  for (long n = 1; n <= q.Malla.NúmeroDeNodos; ++n) fy += q.Malla.VectorDeCargas[2 * n];
+  EXPECT_NEAR(fy, -1.8 * área, 1e-9 * área);
+  ASSERT_TRUE(ModificarYFactorizar(q, *c.MatrizRigidez, ui, kMensajeDiagonalCeroViscoplástico));
   // The crest settles: node 99 stands at the top of the face, x = 25, y = 20.
-  EXPECT_LT(u[1][2 * 99], 0.0);
+  EXPECT_LT(DesplazamientosElásticos(q, *c.MatrizRigidez)[2 * 99], 0.0);
 
   InterfazGuionada sí("S");
   IncrementeNúmeroDeElementos(p, sí);

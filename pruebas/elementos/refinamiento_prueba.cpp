@@ -36,6 +36,10 @@ TEST(Refinamiento, DosTriángulosDanOchoYNueveNodos) {
   const auto& antes = p.Malla.Elemento;  // element 1 is (1, 3, 4): the shared side joins its k = 1 and 3
   const double xm = (antes.XElemento(1, 1) + antes.XElemento(1, 3)) / 2;
   const double ym = (antes.YElemento(1, 1) + antes.YElemento(1, 3)) / 2;
+  // The four children of a parent have equal areas: the mean of their centres is the parent's.
+  double centro[3][2] = {};
+  for (long e = 1; e <= 2; ++e)
+    for (int k = 1; k <= 3; ++k) centro[e][0] += antes.XElemento(e, k) / 3, centro[e][1] += antes.YElemento(e, k) / 3;
   InterfazGuionada ui("S");
   IncrementeNúmeroDeElementos(p, ui);
   const MallaElementos& m = p.Malla;
@@ -66,6 +70,12 @@ TEST(Refinamiento, DosTriángulosDanOchoYNueveNodos) {
                       (t.XElemento(e, 3) - t.XElemento(e, 1)) * (t.YElemento(e, 2) - t.YElemento(e, 1))) / 2;
     EXPECT_NEAR(a, 0.5, 0.01) << e;
     EXPECT_EQ(t.MaterialDeElemento[e], 1);
+  }
+  for (long e = 1; e <= 2; ++e) {
+    double x = 0, y = 0;
+    for (long h = 4 * e - 3; h <= 4 * e; ++h) x += m.Elemento.XCentroElemento[h] / 4, y += m.Elemento.YCentroElemento[h] / 4;
+    EXPECT_NEAR(x, centro[e][0], 1e-12) << e;
+    EXPECT_NEAR(y, centro[e][1], 1e-12) << e;
   }
   EXPECT_EQ(m.Elemento.NúmeroElemento(1, 1), 1);
   EXPECT_EQ(m.NodoConRestricción.NodoRestringido[1], 3);

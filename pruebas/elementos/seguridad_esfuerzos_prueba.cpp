@@ -117,6 +117,38 @@ TEST(FactorDesdeEsfuerzos, FormaDeMomentosSinFricción) {
   EXPECT_NEAR(p.Malla.FSElástico, (num + S2) / S1, 0.02);
 }
 
+// The same form with friction (30 degrees, c = 5) about (-5, 15): N = (W - tan a b c / F) / m_a with
+// m_a = cos a + sin a tan phi / F, R = c b / cos a + tan phi N. The root of F = sum(R (sin a dx -
+// cos a dy)) / sum(k N), found here by halving [2, 10], is 5.2652.
+TEST(FactorDesdeEsfuerzos, FormaDeMomentosConFricción) {
+  Proyecto p = DosDovelas();
+  p.ParámetrosIniciales.MétodoDeCálculo = 2;
+  p.Estrato.Cohesión[1] = 5;
+  p.NúmeroPuntosTalud = 2;
+  p.CoordenadasTalud.Redimensionar(2);
+  p.CoordenadasTalud.X[1] = 10, p.CoordenadasTalud.Y[1] = 0, p.CoordenadasTalud.X[2] = 0, p.CoordenadasTalud.Y[2] = 30;
+  MallaElementos& m = p.Malla;
+  for (long e = 1; e <= 2; ++e)
+    for (long i : {1L, 4L}) m.EsfuerzoX(e, i) = m.EsfuerzoXY(e, i) = 0, m.EsfuerzoY(e, i) = -10;
+  InterfazGuionada ui;
+  FactorDeSeguridadDeslizamientoCálculoViscoplástico(p, ui);
+  const double a = std::atan(5 / 10.01), t = std::tan(M_PI / 6), b = 5, W = 50, c = 5;
+  auto resto = [&](double F) {
+    double num = 0, den = 0;
+    for (double x : {7.5, 2.5}) {
+      const double dx = x + 5, dy = (x - 10) * 5 / 10.01 + 5 - 15;
+      const double N = (W - std::tan(a) * b * c / F) / (std::cos(a) + std::sin(a) * t / F);
+      num += (c * b / std::cos(a) + t * N) * (std::sin(a) * dx - std::cos(a) * dy);
+      den += (dy * std::sin(a) + dx * std::cos(a)) * N;
+    }
+    return num / den - F;
+  };
+  double bajo = 2, alto = 10;
+  for (int k = 0; k < 60; ++k) (resto((bajo + alto) / 2) > 0 ? bajo : alto) = (bajo + alto) / 2;
+  EXPECT_NEAR(bajo, 5.2652, 1e-4);
+  EXPECT_NEAR(p.Malla.FSViscoplástico, bajo, 0.02);
+}
+
 TEST(FactorDesdeEsfuerzos, Puertas) {
   Proyecto p = DosDovelas();
   p.CálculoHecho = false;

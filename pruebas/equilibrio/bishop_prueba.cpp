@@ -157,22 +157,15 @@ struct ResultadosPrevios {
 };
 
 const std::string kGuarda1 =
-    "Existe alguna dovela donde el esfuerzo efectivo se hace cero o menor que cero. Problamente "
-    "las presiones de "
-    "poros son elevadas en esa dovela.  Puede reajustar las presiones de poros en el menú "
-    "Equilibrio Límite en la "
-    "opción 'Cambio de parámetros de resistencia' o  aplique otro método y compare resultados. Si "
-    "desea que el "
-    "programa continúe  y no ver más este mensaje para otra dovela presione <SI> y Si desea salir "
-    "del cálculo  "
+    "Existe alguna dovela donde el esfuerzo efectivo se hace cero o menor que cero. Problamente las presiones de "
+    "poros son elevadas en esa dovela.  Puede reajustar las presiones de poros en el menú Equilibrio Límite en la "
+    "opción 'Cambio de parámetros de resistencia' o  aplique otro método y compare resultados. Si desea que el "
+    "programa continúe  y no ver más este mensaje para otra dovela presione <SI> y Si desea salir del cálculo  "
     "presione <NO> .?";
 const std::string kGuarda2 =
-    "Alguna dovela no cumple con ciertas condiciones de angulos o dimensiones. Cambie las "
-    "dimensiones de las "
-    "dovelas o geometría de la SPF, y si aún con este cambio no se obtiene el chequeo, entonces "
-    "abandone el "
-    "análisis por este método. Si desea que el programa continúe  y no ver más este mensaje para "
-    "otra dovela "
+    "Alguna dovela no cumple con ciertas condiciones de angulos o dimensiones. Cambie las dimensiones de las "
+    "dovelas o geometría de la SPF, y si aún con este cambio no se obtiene el chequeo, entonces abandone el "
+    "análisis por este método. Si desea que el programa continúe  y no ver más este mensaje para otra dovela "
     "presione <SI> y Si desea salir del cálculo  presione <NO> .?";
 
 int Veces(const InterfazGuionada& ui, const std::string& texto) {
@@ -316,64 +309,46 @@ struct Búsqueda {
   double FS() const { return p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones]; }
 };
 
-TEST(BishopBúsquedaDelRadio, SubirEmpeoraYBajaHastaElMejor) {
-  Búsqueda b({{8, 1.50}, {9, 1.55}, {7, 1.45}, {6, 1.47}});
-  b.Correr();
-  EXPECT_EQ(b.radios, (std::vector<double>{9, 7, 6, 7}));  // the last is the final pass
-  EXPECT_EQ(b.p.ParámetrosIniciales.Radio, 7);
-  EXPECT_EQ(b.p.Trabajo.RadioActual, 7);
-  EXPECT_TRUE(b.p.Trabajo.RadioEnVariación);
-  EXPECT_NEAR(b.FS(), 1.45, 1e-9);
-  // The centre of the chosen radius lies 7 m from both ends, above the upper one.
-  const auto& pi = b.p.ParámetrosIniciales;
-  EXPECT_NEAR(std::hypot(pi.CentroX - 10, pi.CentroY - 2), 7, 1e-9);
-  EXPECT_NEAR(std::hypot(pi.CentroX - 0, pi.CentroY - 0), 7, 1e-9);
-  EXPECT_GT(pi.CentroY, 2);
-  EXPECT_EQ(b.p.NúmeroIteraciones, 5);  // 8, 9, 7, 6 and the final 7
-}
-
-TEST(BishopBúsquedaDelRadio, AmbosPrimerosPasosSubenYQuedaR0) {
-  Búsqueda b({{8, 1.50}, {9, 1.55}, {7, 1.52}, {6, 1.56}});
-  const double cx = b.p.ParámetrosIniciales.CentroX, cy = b.p.ParámetrosIniciales.CentroY;
-  b.Correr();
-  EXPECT_EQ(b.radios, (std::vector<double>{9, 7, 6, 8}));
-  EXPECT_EQ(b.p.ParámetrosIniciales.Radio, 8);
-  EXPECT_EQ(b.p.ParámetrosIniciales.CentroX, cx);
-  EXPECT_EQ(b.p.ParámetrosIniciales.CentroY, cy);
-  EXPECT_NEAR(b.FS(), 1.50, 1e-9);
-}
-
 TEST(BishopBúsquedaDelRadio, CasosDeLaBúsqueda) {
   struct Caso {
     const char* nombre;
     std::map<double, double> fs;
-    std::vector<double> radios;
+    std::vector<double> radios;  // every rerun of the stages; the last is the final pass
     double radio;
+    bool exacta = false;
   };
   const Caso casos[] = {
+      {"subir empeora y baja hasta el mejor", {{8, 1.50}, {9, 1.55}, {7, 1.45}, {6, 1.47}}, {9, 7, 6, 7}, 7},
+      {"ambos primeros pasos suben y queda R0", {{8, 1.50}, {9, 1.55}, {7, 1.52}, {6, 1.56}}, {9, 7, 6, 8}, 8},
       // Going up falls twice, then rises: the best of the way up is 10. The way down compares its
       // first row with the last row going up (11, 1.38): 7 at 1.6 is not below it, so that row
       // is the best going down, and 10 wins.
       {"sube", {{8, 1.5}, {9, 1.4}, {10, 1.35}, {11, 1.38}, {7, 1.6}}, {9, 10, 11, 7, 10}, 10},
       // Going down to 5 m leaves no arc (5 < 5.099): the last row going down is its best.
       {"semicuerda", {{8, 1.5}, {9, 1.6}, {7, 1.45}, {6, 1.4}}, {9, 7, 6, 6}, 6},
+      // Best going up 12 m, best going down 6 m (5 m has no arc), both at 1.4: the way down wins.
+      {"empate",
+       {{8, 1.5}, {9, 1.48}, {10, 1.46}, {11, 1.44}, {12, 1.4}, {13, 1.45}, {7, 1.43}, {6, 1.4}},
+       {9, 10, 11, 12, 13, 7, 6, 6},
+       6,
+       true},
   };
   for (const auto& c : casos) {
-    Búsqueda b(c.fs);
+    Búsqueda b(c.fs, c.exacta);
     b.Correr();
+    const auto& pi = b.p.ParámetrosIniciales;
     EXPECT_EQ(b.radios, c.radios) << c.nombre;
-    EXPECT_EQ(b.p.ParámetrosIniciales.Radio, c.radio) << c.nombre;
+    EXPECT_EQ(pi.Radio, c.radio) << c.nombre;
+    EXPECT_EQ(b.p.Trabajo.RadioActual, c.radio) << c.nombre;
+    EXPECT_TRUE(b.p.Trabajo.RadioEnVariación) << c.nombre;
     EXPECT_NEAR(b.FS(), c.fs.at(c.radio), 1e-9) << c.nombre;
+    EXPECT_EQ(b.p.NúmeroIteraciones, static_cast<long>(c.radios.size()) + 1) << c.nombre;
+    if (c.exacta) continue;
+    // The centre of the chosen radius lies that far from both ends, above the upper one.
+    EXPECT_NEAR(std::hypot(pi.CentroX - 10, pi.CentroY - 2), c.radio, 1e-9) << c.nombre;
+    EXPECT_NEAR(std::hypot(pi.CentroX, pi.CentroY), c.radio, 1e-9) << c.nombre;
+    EXPECT_GT(pi.CentroY, 2) << c.nombre;
   }
-}
-
-TEST(BishopBúsquedaDelRadio, UnEmpateEntreLosDosCaminosSeQuedaConElDeBajada) {
-  // Best going up 12 m, best going down 6 m (5 m has no arc), both at 1.4: the way down wins.
-  Búsqueda b({{8, 1.5}, {9, 1.48}, {10, 1.46}, {11, 1.44}, {12, 1.4}, {13, 1.45}, {7, 1.43}, {6, 1.4}},
-             true);
-  b.Correr();
-  EXPECT_EQ(b.radios, (std::vector<double>{9, 10, 11, 12, 13, 7, 6, 6}));
-  EXPECT_EQ(b.p.ParámetrosIniciales.Radio, 6);
 }
 
 TEST(BishopBúsquedaDelRadio, LaTablaDe100FilasDetieneLaSubida) {

@@ -5,7 +5,6 @@
 
 #include "equilibrio/dovelas.h"
 #include "equilibrio/dovelas_apoyo.h"
-#include "proyecto/fallos.h"
 #include "pantallas/interfaz_guionada.h"
 
 namespace lomaterra {
@@ -87,17 +86,6 @@ TEST(CentroDelArco, ConReferenciaDeMomentosPositivaElCentroEsLaReferencia) {
   EXPECT_EQ(p.ParámetrosIniciales.CentroX, 3);
   EXPECT_EQ(p.ParámetrosIniciales.CentroY, 25);
   EXPECT_EQ(p.ParámetrosIniciales.Radio, 20);
-}
-
-TEST(CentroDelArco, UnRadioMenorQueMediaCuerdaTerminaEnFalloAritmético) {
-  // The constants screen opens and closes unchanged; the angle then asks for the root of a
-  // negative number, which ends the calculation instead of running on.
-  Proyecto p = ProyectoDeSuelo(4);
-  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{10, 10}, {0, 0}});
-  p.ParámetrosIniciales.Radio = 5;
-  p.Trabajo.RadioActual = 5;
-  InterfazGuionada ui;
-  EXPECT_THROW(CentroDelArco(p, ui), FalloAritmético);
 }
 
 // ---------------------------------------------------------------- breaks and slices

@@ -47,6 +47,17 @@ void TresDovelas(Proyecto& p) {
   pruebas::CargasPuntuales(p, {{1.5, 3.3, 0.4, 1}});
 }
 
+// Runs Janbu on the three slices, after `cambio`, with the answers given.
+Proyecto Correr(const std::string& respuestas, InterfazGuionada& ui,
+                const std::function<void(Proyecto&)>& cambio = [](Proyecto&) {}) {
+  Proyecto p;
+  TresDovelas(p);
+  cambio(p);
+  ui.Responder(respuestas);
+  MétodoJanbu(p, ui);
+  return p;
+}
+
 std::vector<double> Historia(const Proyecto& p) {
   std::vector<double> r;
   for (long i = 1; i <= p.NúmeroIteraciones; ++i)
@@ -121,14 +132,12 @@ TEST(Janbu, UnaDovelaSinBordeInterior) {
   // Zero shear: 12/0.88/12 = 1.136364, 1.174812, 1.184430, 1.186762, 1.187323. The iteration has
   // no inner edge (dT = 0), so its one pass gives 12 / (0.64 (1 + 0.375/1.187323)) / 12 = 1.187457.
   // tau = 0.64 * 12 / (1.187457 * n_a * 2) = 3.84, sigma = 16/2 - 0.75 * 3.84 = 5.12.
-  Proyecto p;
-  TresDovelas(p);
-  p.NúmeroBordes = 2;
-  p.CargasUniformesDadas = p.CargasPuntualesDadas = false;
-  p.ParámetrosIniciales.CoeficienteSísmicoHorizontal =
-      p.ParámetrosIniciales.CoeficienteSísmicoVertical = 0;
-  InterfazGuionada ui("NN");
-  MétodoJanbu(p, ui);
+  InterfazGuionada ui;
+  const Proyecto p = Correr("NN", ui, [](Proyecto& q) {
+    q.NúmeroBordes = 2;
+    q.CargasUniformesDadas = q.CargasPuntualesDadas = false;
+    q.ParámetrosIniciales.CoeficienteSísmicoHorizontal = q.ParámetrosIniciales.CoeficienteSísmicoVertical = 0;
+  });
   CercaDe(Historia(p), {1.0, 1.136364, 1.174812, 1.184430, 1.186762, 1.187323, 1.187457}, 1e-6);
   EXPECT_NEAR(p.TablaDovelas.EsfuerzoTangencial[1], 3.84, 1e-6);
   EXPECT_NEAR(p.TablaDovelas.EsfuerzoNormalTotal[1], 5.12, 1e-6);
@@ -138,52 +147,38 @@ TEST(Janbu, UnaDovelaSinBordeInterior) {
 TEST(Janbu, LaGrietaSoloEntraEnElDenominador) {
   // With EmpujeGrieta = 5 the first factor at zero shear is (12.9/0.88 + 6.38/1.056 + 4.08) /
   // (5 + 17.566667) = 1.098132.
-  Proyecto p;
-  TresDovelas(p);
-  p.GrietaTracción.EmpujeGrieta = 5;
-  InterfazGuionada ui("NN");
-  MétodoJanbu(p, ui);
-  EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[2],
-              (12.9 / 0.88 + 6.38 / 1.056 + 4.08) / (5 + 17.566667), 1e-6);
+  InterfazGuionada ui;
+  const Proyecto p = Correr("NN", ui, [](Proyecto& q) { q.GrietaTracción.EmpujeGrieta = 5; });
+  EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[2], (12.9 / 0.88 + 6.38 / 1.056 + 4.08) / (5 + 17.566667),
+              1e-6);
 }
 
-TEST(Janbu, UnaSoluciónAceptadaTerminaAntes) {
-  // Yes at the first screen: the change 1.510869 -> 1.620063 is far above 0.001, yet the loop ends
-  // and the stresses take F = 1.620063.
-  Proyecto p;
-  TresDovelas(p);
-  InterfazGuionada ui("NNS");
-  MétodoJanbu(p, ui);
+TEST(Janbu, AceptarOSalirEnLaPrimeraPantalla) {
+  // Yes to "solution" at the first screen: the change 1.510869 -> 1.620063 is far above 0.001,
+  // yet the loop ends and the stresses take F = 1.620063.
+  InterfazGuionada acepta, sale;
+  const Proyecto p = Correr("NNS", acepta);
   EXPECT_EQ(p.NúmeroIteraciones, 7);
   EXPECT_NEAR(p.HistoriaIteraciones.FactorDeSeguridad[7], 1.620063, 1e-6);
   EXPECT_TRUE(p.CálculoHecho);
-  EXPECT_EQ(ui.Textos().back(), kFin);
-}
-
-TEST(Janbu, SalirDelCálculoDejaLaHistoriaComoEstaba) {
-  Proyecto p;
-  TresDovelas(p);
-  InterfazGuionada ui("NNNS");
-  MétodoJanbu(p, ui);
-  EXPECT_EQ(ui.Textos().back(), kSalir);
-  EXPECT_EQ(p.NúmeroIteraciones, 7);  // as it stood when the user left
-  EXPECT_FALSE(p.CálculoHecho);
-  EXPECT_FALSE(p.JanbuCalculado);
-  EXPECT_TRUE(p.SaleDelCálculo);
-  EXPECT_NEAR(p.TablaDovelas.AlturaEmpuje[1], 1, 1e-12);
+  EXPECT_EQ(acepta.Textos().back(), kFin);
+  // No, then Yes to leaving: the history stays as it stood, nothing is counted as calculated.
+  const Proyecto q = Correr("NNNS", sale);
+  EXPECT_EQ(sale.Textos().back(), kSalir);
+  EXPECT_EQ(q.NúmeroIteraciones, 7);
+  EXPECT_FALSE(q.CálculoHecho || q.JanbuCalculado);
+  EXPECT_TRUE(q.SaleDelCálculo);
+  EXPECT_NEAR(q.TablaDovelas.AlturaEmpuje[1], 1, 1e-12);
 }
 
 TEST(Janbu, LaPreguntaDeAlturasGuardaLasAnteriores) {
-  Proyecto p;
-  TresDovelas(p);
-  p.CálculoHecho = p.JanbuCalculado = true;
-  Fijar(p.TablaDovelas.AlturaEmpuje, {2, 1, 0.5, 0});
-  InterfazGuionada ui("NSNN");  // drawdown, recalculate, stages, heights of the program: No
-  MétodoJanbu(p, ui);
+  InterfazGuionada ui;  // drawdown, recalculate, stages, heights of the program: No
+  Proyecto p = Correr("NSNN", ui, [](Proyecto& q) {
+    q.CálculoHecho = q.JanbuCalculado = true;
+    Fijar(q.TablaDovelas.AlturaEmpuje, {2, 1, 0.5, 0});
+  });
   const auto t = ui.Textos();
-  EXPECT_EQ(
-      t[3],
-      "Desea que sea el programa el que fije la altura de aplicación de las fuerzas laterales?");
+  EXPECT_EQ(t[3], "Desea que sea el programa el que fije la altura de aplicación de las fuerzas laterales?");
   EXPECT_EQ(p.TablaDovelas.AlturaEmpuje[1], 2);
   EXPECT_EQ(p.TablaDovelas.AlturaEmpuje[3], 0.5);
   EXPECT_EQ(t.back(), kFin);

@@ -60,16 +60,6 @@ Vec PesosDerivada(const Vec& X, double en) {
 // ------------------------------------------------------------------------------------------------
 // Finite differences
 
-TEST(DiferenciasFinitas, PesosDeCuatroPuntosEnMallaUniforme) {
-  // Points 4, 3, 2, 1 (descending as the slices): the classic one-sided derivative at x = 1 with
-  // unit step, f'(x0) ≈ (−11 f0 + 18 f1 − 9 f2 + 2 f3) / 6, f_k = f(x0 + k).
-  const auto w = PesosDerivadaCuatroPuntos(4, 3, 2, 1);
-  EXPECT_NEAR(w.w1, 2.0 / 6, 1e-14);
-  EXPECT_NEAR(w.w2, -9.0 / 6, 1e-14);
-  EXPECT_NEAR(w.w3, 18.0 / 6, 1e-14);
-  EXPECT_NEAR(w.w4, -11.0 / 6, 1e-14);
-}
-
 TEST(DiferenciasFinitas, CuatroPuntosDerivanUnaCúbicaExactamente) {
   const double X[] = {12.0, 9.5, 8.7, 6.1};  // uneven, descending
   const auto w = PesosDerivadaCuatroPuntos(X[0], X[1], X[2], X[3]);
@@ -100,19 +90,6 @@ TEST(DiferenciasFinitas, TresPuntosExactaEnCuadráticasYNoEnCúbicas) {
 
 // ------------------------------------------------------------------------------------------------
 // Inversion
-
-TEST(InversiónSinPivoteo, InversaDeUnaMatrizTridiagonal) {
-  MatrizDensa a(3);
-  const double v[3][3] = {{2, 1, 0}, {1, 3, 1}, {0, 1, 4}};
-  for (int i = 1; i <= 3; ++i)
-    for (int j = 1; j <= 3; ++j) a(i, j) = v[i - 1][j - 1];
-  MatrizDensa inv = a;
-  ASSERT_TRUE(InvertirSinPivoteo(inv));
-  // det = 2·11 − 1·4 = 18; adjugate / 18.
-  const double esperada[3][3] = {{11, -4, 1}, {-4, 8, -2}, {1, -2, 5}};
-  for (int i = 1; i <= 3; ++i)
-    for (int j = 1; j <= 3; ++j) EXPECT_NEAR(inv(i, j), esperada[i - 1][j - 1] / 18, 1e-14);
-}
 
 TEST(InversiónSinPivoteo, UnCeroEnLaDiagonalDetieneLaEliminación) {
   MatrizDensa permutación(2);  // regular, but its first pivot is 0: no row is exchanged

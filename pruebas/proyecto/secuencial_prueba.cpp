@@ -1,10 +1,6 @@
 // The sequential item reader and writer.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
-#include "apoyo/apoyo.h"
 #include "proyecto/secuencial.h"
 
 namespace lomaterra {
@@ -28,13 +24,6 @@ TEST(Secuencial, EscribeLíneasCrLfYLeeLoEscrito) {
   EXPECT_TRUE(b);
   EXPECT_TRUE(l.AlFinal());
   EXPECT_THROW(l.LeerReal(), ErrorLectura);
-}
-
-TEST(Secuencial, QuinceCifrasSignificativas) {
-  const double x = 1.23456789012345e-7;
-  LectorSecuencial l(RealParaArchivo(x));
-  EXPECT_DOUBLE_EQ(l.LeerReal(), x);
-  EXPECT_EQ(RealParaArchivo(2.0 / 3.0), "0.666666666666667");
 }
 
 TEST(Secuencial, FormasAntiguasYÍtemsPartidosDeOtraManera) {
@@ -61,22 +50,6 @@ TEST(Secuencial, Windows1252YUtf8) {
   EXPECT_EQ(DecodificarTexto(cp), utf8);
   EXPECT_EQ(DecodificarTexto(utf8), utf8);
   EXPECT_EQ(CodificarWindows1252("π"), "?");
-}
-
-TEST(Secuencial, GuardarReemplazaSoloAlTerminarBien) {
-  const std::string carpeta = pruebas::CarpetaTemporal();
-  const std::string ruta = carpeta + "/p.cod";
-  EscritorSecuencial e;
-  e.Texto("ñ").Fin();
-  ASSERT_TRUE(e.GuardarEn(ruta));
-  std::ifstream f(ruta, std::ios::binary);
-  std::string bytes((std::istreambuf_iterator<char>(f)), {});
-  EXPECT_EQ(bytes, "\"\xF1\"\r\n");
-  // A folder that does not exist: the write fails and says so.
-  std::string error;
-  EXPECT_FALSE(e.GuardarEn(carpeta + "/no/existe.cod", &error));
-  EXPECT_FALSE(error.empty());
-  EXPECT_FALSE(std::filesystem::exists(carpeta + "/no/existe.cod.tmp~"));
 }
 
 }  // namespace

@@ -18,6 +18,14 @@ TEST(MóduloDegradado, IshibashiZhangRocaYPoisson) {
     EXPECT_NEAR(m.G, c.razón * 2000, 2) << c.y;
     EXPECT_NEAR(m.z, c.z, 2e-4) << c.y;
   }
+  // Up to 10^-6 K is 1 while (10 s_m)^m still counts: s_m = 0.05, m = 0.272 (1 - tanh(0.4 ln 556))
+  // = 0.003442, G = 2000 * 0.5^m = 1995.23 (K(10^-6) = 0.9896 would give 1974.4). At 0.1,
+  // m = 0.544 and K = 0.00115: the ratio 0.0139 is held at 0.1.
+  SueloDegradable f;
+  f.Gmax = 2000, f.sm = 0.05;
+  EXPECT_NEAR(MóduloSuelo(f, 1e-6).G, 1995.23, 0.01);
+  f.sm = 10;
+  EXPECT_EQ(MóduloSuelo(f, 0.1).G, 200);
   // Rock: G = 5 / 0.01 = 500, z = 2^1.005 / 7 * 1000 / (2 * 1000 + 500) = 0.11468; a strain at
   // 1e-6 or less keeps Gmax; a small stress is held at 0.1 Gmax.
   EXPECT_NEAR(MóduloRoca(1000, 5, 0.01, 0.1, 20).z, 0.11468, 1e-5);

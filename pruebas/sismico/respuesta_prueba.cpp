@@ -42,6 +42,10 @@ TEST(Duhamel, IntegralesContraFormasCerradasYAcumulaciónAMano) {
   EXPECT_NEAR(s.q, F / (M * 25), 1e-12);
   EXPECT_NEAR(s.qd, 0, 1e-12);
   EXPECT_NEAR(s.qa, F * (1 - 1 / M), 1e-12);
+  // A later damped step, where q' is not zero: q'' = F - 2 z w q' - w² q with a unit mass.
+  const RespuestaModal s2 = PasoDuhamel(d, false, 5, 0.2, 1, 0.1, 0.0001, 0.02, 2 * F, F);
+  EXPECT_GT(std::fabs(s2.qd), 0.01);
+  EXPECT_NEAR(s2.qa, 2 * F - 2 * 0.2 * 5 * s2.qd - 25 * s2.q, 1e-12);
 }
 
 long Inversa(const std::vector<double>& a, long n, std::vector<double>& inv) {
@@ -76,6 +80,11 @@ TEST(PasoAPaso, TresPasosAManoYSoloLaDiagonalDeLaInversa) {
   ASSERT_EQ(PasoAPaso({2, &M2, &K2, &K2, nullptr, &P2, 0.1, true}, e, Inversa), 0);
   EXPECT_NEAR(e.u[0], 2.0 / 3, 1e-15);
   EXPECT_EQ(e.u[1], 0);
+  // Each degree's row of the stiffness scales by (x + G) / (x + Gmax): by 1/2 with x = 0 and
+  // G = Gmax / 2, by (1 + 1) / (1 + 3) with x = 1.
+  std::vector<double> k;
+  EscalarRigidez({4, -2, -2, 4}, 2, {{0, 50, 100}, {1, 1, 3}}, k);
+  EXPECT_EQ(k, (std::vector<double>{2, -1, -1, 2}));
 }
 
 TEST(PasoDesacoplado, UnGradoDosPasosAMano) {
