@@ -61,7 +61,9 @@ std::string EstadoDelCálculoSísmico(const Proyecto& p) {
   const DatosSísmicos& s = p.Sísmico;
   const std::string de = std::to_string(s.PasosCalculados) + " de " + std::to_string(s.NúmeroPuntosRegistro);
   std::string t;
-  if (s.CálculoInterrumpido) t += "El usuario detuvo el cálculo: se calcularon " + de + " registros. ";
+  if (s.CálculoInterrumpido)
+    t += "El cálculo se interrumpió (el usuario pulsó Cancelar o una falla del cálculo lo terminó): se calcularon " + de +
+         " registros. ";
   if (s.ReglaDel75)
     t += "Se cumplió la regla del 75%: más del 75% de los nodos se desplazó más de 50 cm y se considera que la masa "
          "perdió su resistencia al corte. ";

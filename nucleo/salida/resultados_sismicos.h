@@ -42,7 +42,7 @@ double GmaxDeElemento(const Proyecto& p, long e);
 // The time of step t (the record's time; the first step's stored 0.0001 reads as such).
 double TiempoDelPaso(const Proyecto& p, long t);
 // How the run ended, in a sentence for the screen and the report: complete, cut, 75% rule,
-// stopped by the user.
+// stopped by the user or by a fault.
 std::string EstadoDelCálculoSísmico(const Proyecto& p);
 
 // The printed report of the seismic run: run data and how it ended, the largest displacement,

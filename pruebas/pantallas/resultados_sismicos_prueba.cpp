@@ -41,7 +41,7 @@ TEST(ResultadosSísmicos, ElRegistroPedidoSeCompruebaEnOrden) {
     f.Activar(ui);
     EXPECT_EQ(f.texto("TextoTotalRegistrosSismicos"), "3");
     EXPECT_EQ(f.texto("TextoFactorSeguridadDeslizamiento"), "1.23");
-    EXPECT_NE(f.nota.find("El usuario detuvo el cálculo: se calcularon 3 de 4 registros."), std::string::npos);
+    EXPECT_NE(f.nota.find("El cálculo se interrumpió (el usuario pulsó Cancelar o una falla del cálculo lo terminó): se calcularon 3 de 4 registros."), std::string::npos);
     f.texto("Texto_Del_Registro_Que_Ud_Ver") = c.texto;
     f.Pulsar("BotónAceptar", ui);
     if (!c.mensaje.empty()) {
