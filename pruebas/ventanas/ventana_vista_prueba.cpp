@@ -145,15 +145,6 @@ TEST_F(VistaPrueba, ElegirUnaFilaAvisaALaPantallaYMuestraLoQueLlenó) {
   EXPECT_EQ(pantalla.lista("ListaFilas").seleccionada, 3);
 }
 
-TEST_F(VistaPrueba, SeCierraCuandoLaPantallaDiceQueEstáCerrada) {
-  VistaPantalla vista(pantalla, guion);
-  vista.show();
-  Hijo<QPushButton>(vista, "BotónAceptar")->click();
-  EXPECT_TRUE(pantalla.cerrada);
-  EXPECT_FALSE(vista.isVisible());
-  EXPECT_EQ(vista.result(), QDialog::Accepted);
-}
-
 TEST_F(VistaPrueba, LaCajaDeCierreLlamaALaSalidaSinCambiosYRespetaUnaNegativa) {
   VistaPantalla vista(pantalla, guion);
   vista.show();
@@ -163,6 +154,14 @@ TEST_F(VistaPrueba, LaCajaDeCierreLlamaALaSalidaSinCambiosYRespetaUnaNegativa) {
   vista.close();
   EXPECT_EQ(pantalla.salidas, 2);
   EXPECT_FALSE(vista.isVisible());
+  // A button that closes the screen closes the view as accepted.
+  pantalla.cerrada = false;
+  VistaPantalla otra(pantalla, guion);
+  otra.show();
+  Hijo<QPushButton>(otra, "BotónAceptar")->click();
+  EXPECT_TRUE(pantalla.cerrada);
+  EXPECT_FALSE(otra.isVisible());
+  EXPECT_EQ(otra.result(), QDialog::Accepted);
 }
 
 TEST_F(VistaPrueba, UnCampoNuevoDeLaPantallaAparece) {
@@ -204,19 +203,15 @@ TEST_F(AbrirPrueba, ActivaLaPantallaYLaDejaEnManosDelUsuario) {
   EXPECT_EQ(pantalla.salidas, 0);
 }
 
-TEST_F(AbrirPrueba, UnaPantallaQueSeCierraAlActivarseNoSeMuestra) {
-  bool mostrada = false;
-  ui.AlMostrar([&](VistaPantalla&) { mostrada = true; });
-  pantalla.cerrarAlActivar = true;
-  ui.Abrir(pantalla);
-  EXPECT_FALSE(mostrada);
-  EXPECT_TRUE(pantalla.cerrada);
-}
-
-TEST_F(AbrirPrueba, UnaPantallaQueQuedaAbiertaSeCierraConSuSalida) {
-  ui.AlMostrar([](VistaPantalla&) {});
+TEST_F(AbrirPrueba, UnaPantallaQueQuedaAbiertaSeCierraConSuSalidaYUnaYaCerradaNoSeMuestra) {
+  int mostradas = 0;
+  ui.AlMostrar([&](VistaPantalla&) { ++mostradas; });
   ui.Abrir(pantalla);
   EXPECT_EQ(pantalla.salidas, 2);  // the first exit refused, the second closed
+  EXPECT_TRUE(pantalla.cerrada);
+  pantalla.cerrarAlActivar = true;
+  ui.Abrir(pantalla);
+  EXPECT_EQ(mostradas, 1);
   EXPECT_TRUE(pantalla.cerrada);
 }
 
@@ -237,12 +232,6 @@ TEST_F(AbrirPrueba, UnaFallaAritméticaDeUnBotónTerminaElComandoConSuMensaje) {
   ASSERT_EQ(guion.Transcripción().size(), 1u);
   EXPECT_EQ(guion.Transcripción()[0].título, TítuloDeFallo());
 }
-
-}  // namespace
-}  // namespace lomaterra
-
-namespace lomaterra {
-namespace {
 
 // A screen that shows its numbers and asks at once, as the iteration screens do.
 class PantallaQuePregunta : public Pantalla {
