@@ -43,10 +43,8 @@ const std::string kFiltro = "Todos los archivos (*.*)|*.*|Archivos de coordenada
 // Questions of the chain as they stand in the transcript, without the answer.
 const std::string kSísmico =
     "[pregunta]  | Existe  datos o registros para análisis sísmicos. Por tanto para el análisis "
-    "por los métodos "
-    "de equilibrio límite, se recomienda que Guarde la información en otro archivo con otro nombre "
-    "para no "
-    "perder esa información si así lo considera. ¿Desea continuar?. -> ";
+    "por los métodos de equilibrio límite, se recomienda que Guarde la información en otro archivo "
+    "con otro nombre para no perder esa información si así lo considera. ¿Desea continuar?. -> ";
 const std::string kSinCálculo =
     "[pregunta]  | Ud. no ha realizado el cálculo, ¿Desea guardar y luego calcular? -> ";
 const std::string kDiálogoCancelado = "[archivo] Guardar como | ";
@@ -79,23 +77,18 @@ TEST_F(Archivo, LasCuatroComprobacionesQueTerminanElGuardado) {
   const Caso casos[] = {
       {[](Proyecto& q) { q.InformaciónDada = false; },
        "[mensaje] Información del proyecto | Si desea guardar información, comience por dar La "
-       "información del "
-       "proyecto en el menú archivo."},
+       "información del proyecto en el menú archivo."},
       {[](Proyecto& q) { q.NúmeroPuntosTalud = 0; },
        "[mensaje] Coordenadas Talud-Presa-Túnel | Si desea guardar información, debe dar primero "
-       "las coordenas "
-       "del talud o las coordenadas de la superficie de la Presa ó coordenadas del borde de la "
-       "carga de roca en el "
-       "túnel. Vaya al menú coordenadas."},
+       "las coordenas del talud o las coordenadas de la superficie de la Presa ó coordenadas del "
+       "borde de la carga de roca en el túnel. Vaya al menú coordenadas."},
       {[](Proyecto& q) { q.NúmeroEstratos = 0; },
        "[mensaje] Estratos e Insertar estrato | Si desea guardar información, debe insertar "
-       "primero el número de "
-       "estratos que definen la litología del problema y luego  dar sus coordenadas. Vaya al menú "
-       "coordenadas."},
+       "primero el número de estratos que definen la litología del problema y luego  dar sus "
+       "coordenadas. Vaya al menú coordenadas."},
       {[](Proyecto& q) { q.EstratosCaracterizados = false; },
        "[mensaje] Caracteríticas Geomecánicas de los estratos | Ud. no ha dado las características "
-       "geomecánicas "
-       "de los estratos. Vaya al menú Parámetros y Cargas"},
+       "geomecánicas de los estratos. Vaya al menú Parámetros y Cargas"},
   };
   // Each check stands before the ones below it: with all four failing only the first speaks.
   for (std::size_t k = 0; k < std::size(casos); ++k) {
@@ -305,36 +298,27 @@ class ArchivoElementosFinitos : public Archivo {
 
 const std::string kNodos =
     "No se ha dado las coordenadas de los nodos que definen los elementos finitos (Menú elementos "
-    "finitos), "
-    "¿Desea guardar y luego dar las coordenadas?";
+    "finitos), ¿Desea guardar y luego dar las coordenadas?";
 const std::string kElementos =
     "No se han definido los elementos finitos a través de los respectivos nodos (Menú elementos "
-    "finitos), ¿Desea "
-    "guardar y luego definir elementos?";
+    "finitos), ¿Desea guardar y luego definir elementos?";
 const std::string kElásticas =
     "No se ha dado las características elásticas  de los estratos (Menú elementos finitos, "
-    "Parámetros de los "
-    "estratos), ¿Desea guardar y luego dar esta información?";
+    "Parámetros de los estratos), ¿Desea guardar y luego dar esta información?";
 const std::string kMateriales =
     "No se ha asignado a cada elemento el material que los caracteriza. (Menú elementos finitos, "
-    "Caracterización "
-    "de los elementos), ¿Desea guardar y luego dar esta información?";
+    "Caracterización de los elementos), ¿Desea guardar y luego dar esta información?";
 const std::string kRestringidos =
     "No se ha definido los nodos con restricción de movimiento. (Menú elementos finitos, Nodos con "
-    "restricción), "
-    "¿Desea guardar y luego dar esta información?";
+    "restricción), ¿Desea guardar y luego dar esta información?";
 const std::string kParámetrosSísmicos =
     "No se ha dado algunos parámetros de los estratos para el análisis sísmico (para análisis "
-    "viscoplástico no es "
-    "requerido). (Menú elementos finitos, Parámetros de los estratos para el cálculo sísmico), "
-    "¿Desea guardar y "
-    "luego dar esta información?";
+    "viscoplástico no es requerido). (Menú elementos finitos, Parámetros de los estratos para el "
+    "cálculo sísmico), ¿Desea guardar y luego dar esta información?";
 const std::string kRegistro =
     "No se ha dado los valores de las aceleraciones del registro sísmico (para análisis "
-    "viscoplástico no es "
-    "requerido). (Menú elementos finitos, Input de registro sísmico), ¿Desea guardar y luego dar "
-    "esta "
-    "información?";
+    "viscoplástico no es requerido). (Menú elementos finitos, Input de registro sísmico), ¿Desea "
+    "guardar y luego dar esta información?";
 const std::string kCálculoSísmico =
     "Ud. no ha realizado el cálculo sísmico, ¿Desea guardar y luego calcular?";
 const std::string kViscoplástico =

@@ -24,12 +24,10 @@ std::vector<std::string> Líneas(const InterfazGuionada& ui) {
 
 const std::string kInsertado =
     "[mensaje] Insertar estrato | YA SE INSERTÓ EL ESTRATO: Ahora vaya inmediatamente al menú "
-    "'Parámetros y "
-    "Cargas' y dé las 'Características Geomecánicas' del estrato insertado. Si trabaja con "
-    "elementos finitos, "
-    "vaya también al menú 'Elementos finitos' y dé los 'Parámetros de los estratos' y los "
-    "'Parámetros de los "
-    "estratos para el cálculo sísmico' del estrato insertado.";
+    "'Parámetros y Cargas' y dé las 'Características Geomecánicas' del estrato insertado. Si "
+    "trabaja con elementos finitos, vaya también al menú 'Elementos finitos' y dé los 'Parámetros "
+    "de los estratos' y los 'Parámetros de los estratos para el cálculo sísmico' del estrato "
+    "insertado.";
 
 class Coordenadas : public ::testing::Test {
  protected:
@@ -127,20 +125,16 @@ TEST_F(Coordenadas, InsertarSeNiegaMientrasFalteInformaciónDeUnEstratoInsertado
   const Caso casos[] = {
       {&Proyecto::CaracterísticasSueloCompletas,
        "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
-       "estrato ya "
-       "insertado para ser considerado como un suelo."},
+       "estrato ya insertado para ser considerado como un suelo."},
       {&Proyecto::CaracterísticasRocaCompletas,
        "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
-       "estrato ya "
-       "insertado para ser considerado como una roca."},
+       "estrato ya insertado para ser considerado como una roca."},
       {&Proyecto::ParámetrosEstratoCompletos,
        "Falta darle al programa los Parámetros de los estratos (menú elementos finitos) de un "
-       "estrato ya "
-       "insertado para el cálculo elástico, viscoplástico o plástico."},
+       "estrato ya insertado para el cálculo elástico, viscoplástico o plástico."},
       {&Proyecto::ParámetrosSísmicosCompletos,
        "Falta darle al programa los Parámetros de los estratos para el cálculo sísmico (menú "
-       "elementos finitos) "
-       "de un estrato ya insertado."},
+       "elementos finitos) de un estrato ya insertado."},
   };
   DosEstratosDeSuelo();
   for (const Caso& c : casos) {
