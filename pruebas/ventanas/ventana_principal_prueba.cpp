@@ -28,6 +28,8 @@
 namespace lomaterra {
 namespace {
 
+using pruebas::Hijo;
+
 // What a panel stand-in saw of the window state when it was called.
 struct Llamada {
   std::string qué, x, y;
@@ -39,10 +41,6 @@ class VentanaPrueba : public ::testing::Test {
   void SetUp() override {
     pruebas::Aplicación();
     ReiniciarProyecto(p);
-  }
-  template <class T>
-  static T* Hijo(QWidget& w, const char* nombre) {
-    return w.findChild<T*>(QString::fromUtf8(nombre));
   }
   // Stand-ins of the panel that note the call and change the state as a panel would.
   AccionesPanel Sustitutos() {
@@ -98,7 +96,9 @@ TEST_F(VentanaPrueba, MuestraElProyectoDeMuestra) {
   EXPECT_TRUE(ventana.dibujo().TieneDibujo());
 }
 
-TEST_F(VentanaPrueba, LaEntradaDelPanelSeAbreConLaInformaciónDelProyecto) {
+// The entry of the panel opens with the project information; its buttons then carry the boxes
+// and the row to the core and show the result.
+TEST_F(VentanaPrueba, LosBotonesDelPanelLlevanLasCajasYLaFilaAlNúcleoYMuestranElResultado) {
   VentanaPrincipalQt ventana(p, ÁrbolDeMenús(), Sustitutos());
   for (const char* nombre : {"TextoX", "TextoY", "BotónAgregar", "BotónBorrar", "BotónModificar"})
     EXPECT_FALSE(Hijo<QWidget>(ventana, nombre)->isEnabled()) << nombre;
@@ -108,11 +108,6 @@ TEST_F(VentanaPrueba, LaEntradaDelPanelSeAbreConLaInformaciónDelProyecto) {
   ventana.Refrescar();
   for (const char* nombre : {"TextoX", "TextoY", "BotónAgregar", "BotónBorrar", "BotónModificar"})
     EXPECT_TRUE(Hijo<QWidget>(ventana, nombre)->isEnabled()) << nombre;
-}
-
-TEST_F(VentanaPrueba, LosBotonesDelPanelLlevanLasCajasYLaFilaAlNúcleoYMuestranElResultado) {
-  p.Ventana.EntradaCoordenadasAbierta = true;
-  VentanaPrincipalQt ventana(p, ÁrbolDeMenús(), Sustitutos());
   auto* x = Hijo<QLineEdit>(ventana, "TextoX");
   auto* y = Hijo<QLineEdit>(ventana, "TextoY");
   auto* lista = Hijo<QTableWidget>(ventana, "ListaCoordenadas");

@@ -24,6 +24,8 @@
 namespace lomaterra {
 namespace {
 
+using pruebas::Hijo;
+
 // A screen with one box of each kind, a list and four buttons; it notes what its code saw.
 class PantallaDePrueba : public Pantalla {
  public:
@@ -80,10 +82,6 @@ class VistaPrueba : public ::testing::Test {
     pruebas::Aplicación();
     pantalla.cerrada = false;
     pantalla.Activar(guion);
-  }
-  template <class T>
-  T* Hijo(VistaPantalla& v, const char* nombre) {
-    return v.findChild<T*>(QString::fromUtf8(nombre));
   }
   PantallaDePrueba pantalla;
   InterfazGuionada guion;
