@@ -119,10 +119,14 @@ TEST_F(VistaPrueba, MuestraLosCamposLasListasYLosBotonesDeLaPantalla) {
   EXPECT_EQ(vista.findChildren<QPushButton*>().size(), 4);
 }
 
-TEST_F(VistaPrueba, UnBotónRecibeLoEscritoYLaFilaElegidaYLaVistaMuestraElResultado) {
+TEST_F(VistaPrueba, ElegirUnaFilaAvisaALaPantallaYUnBotónRecibeLoEscritoYLaFila) {
   VistaPantalla vista(pantalla, guion);
   vista.show();
   auto* tabla = Hijo<QTableWidget>(vista, "ListaFilas");
+  tabla->selectRow(2);  // choosing a row tells the screen, and what it filled is shown
+  ASSERT_EQ(pantalla.seleccionesVistas, std::vector<int>{3});
+  EXPECT_EQ(Hijo<QLineEdit>(vista, "TextoValor")->text(), "30.00");
+  EXPECT_EQ(pantalla.lista("ListaFilas").seleccionada, 3);
   tabla->selectRow(1);  // second row
   Hijo<QLineEdit>(vista, "TextoValor")->setText("12.5");
   Hijo<QPushButton>(vista, "BotónCopiar")->click();
@@ -132,15 +136,6 @@ TEST_F(VistaPrueba, UnBotónRecibeLoEscritoYLaFilaElegidaYLaVistaMuestraElResult
   ASSERT_EQ(tabla->rowCount(), 4);
   EXPECT_EQ(tabla->item(3, 1)->text(), "12.5");
   EXPECT_TRUE(vista.isVisible());  // the screen did not close itself
-}
-
-TEST_F(VistaPrueba, ElegirUnaFilaAvisaALaPantallaYMuestraLoQueLlenó) {
-  VistaPantalla vista(pantalla, guion);
-  vista.show();
-  Hijo<QTableWidget>(vista, "ListaFilas")->selectRow(2);
-  ASSERT_EQ(pantalla.seleccionesVistas, std::vector<int>{3});
-  EXPECT_EQ(Hijo<QLineEdit>(vista, "TextoValor")->text(), "30.00");
-  EXPECT_EQ(pantalla.lista("ListaFilas").seleccionada, 3);
 }
 
 TEST_F(VistaPrueba, LaCajaDeCierreLlamaALaSalidaSinCambiosYRespetaUnaNegativa) {
