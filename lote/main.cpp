@@ -26,7 +26,9 @@
 #include "proyecto/secuencial.h"
 #include "resumen.h"
 #include "resumen_elementos.h"
+#include "resumen_modos.h"
 #include "salida/graficos.h"
+#include "salida/formas_modales.h"
 #include "salida/malla_resultados.h"
 #ifdef LOMATERRA_DIBUJO
 #include "salida_lote.h"
@@ -130,12 +132,12 @@ std::string ComprobarSalidas(const Opciones& o) {
   for (const auto& [nombre, archivo] : o.figuras) {
     bool conocida = false;
     for (const auto& n : NombresDeGráficos()) conocida |= n == nombre;
-    conocida |= EsFiguraDeMalla(nombre);
+    conocida |= EsFiguraDeMalla(nombre) || EsFiguraFormaModal(nombre);
     if (!conocida) {
       std::string r = "Figura desconocida: " + nombre + ". Las figuras son:";
       for (const auto& n : NombresDeGráficos()) r += " " + n;
       for (const auto& n : NombresDeFigurasDeMalla()) r += " " + n;
-      return r + ".";
+      return r + " FormaModal (el modo elegido) FormaModal1, FormaModal2...";
     }
   }
 #ifndef LOMATERRA_DIBUJO
@@ -308,8 +310,9 @@ int Correr(const std::vector<std::string>& argumentos) {
       }
     }
   if (o.json) {
-    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, ""};
+    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, "", ""};
     informe.elementos = ElementosComoJson(p);
+    informe.modos = ModosComoJson(p);
     std::string motivo;
     if (!EscribirArchivoCompleto(*o.json, InformeComoJson(informe), &motivo)) {
       std::cerr << "lomaterra-lote: no se pudo escribir \"" << *o.json << "\" (" << motivo << ").\n";

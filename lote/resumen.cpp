@@ -163,6 +163,7 @@ std::string InformeComoJson(const InformeLote& informe) {
   s << "  \"NúmeroBordes\": " << r.NúmeroBordes << ",\n";
   for (const auto& [nombre, valor] : r.sumas) s << "  " << TextoJson(nombre) << ": " << NúmeroJson(valor) << ",\n";
   if (!informe.elementos.empty()) s << "  \"ElementosFinitos\": " << informe.elementos << ",\n";
+  if (!informe.modos.empty()) s << "  \"modos\": " << informe.modos << ",\n";
   s << "  \"Dovelas\": [";
   for (std::size_t i = 0; i < r.dovelas.size(); ++i) {
     s << (i ? "," : "") << "\n    {";

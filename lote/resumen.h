@@ -41,6 +41,7 @@ struct InformeLote {
   Resumen resumen;
   std::string búsqueda;  // the JSON value of the search of the critical circle, when it ran
   std::string elementos;  // the finite-element results as a JSON object, empty when none
+  std::string modos;      // frequencies, periods and mode vectors as a JSON object, empty when none
 };
 
 // The JSON text: numbers at full precision, null where there is no number.

@@ -7,6 +7,7 @@
 #include "pintor.h"
 #include "proyecto/proyecto.h"
 #include "salida/graficos.h"
+#include "salida/formas_modales.h"
 #include "salida/malla_resultados.h"
 #include "salida/informe.h"
 #include "salida/resumen.h"
@@ -60,6 +61,17 @@ bool EscribirInformeDeResultados(const Proyecto& p, const std::string& ruta, std
 
 bool EscribirFiguraDelMenú(const Proyecto& p, const std::string& nombre, const std::string& ruta,
                            std::string& error) {
+  if (EsFiguraFormaModal(nombre)) {
+    const long modo = ModoDeFiguraFormaModal(p, nombre);
+    if (error = DefectoDeLaFormaModal(p, modo); !error.empty()) return false;
+    PrepararDibujoSinVentana();
+    QString e;
+    if (!ExportarFigura(FiguraFormaModal(p, modo), QString::fromStdString(ruta), &e)) {
+      error = e.toStdString();
+      return false;
+    }
+    return true;
+  }
   if (EsFiguraDeMalla(nombre)) {
     if (FiguraDeMallaNecesitaResultados(nombre) && (!p.CálculoHecho || p.Malla.NúmeroDeIteración < 1)) {
       error = "No hay resultados de un cálculo de esfuerzos por elementos finitos para la figura " + nombre + ".";

@@ -5,6 +5,7 @@
 #include "proyecto/compat.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
+#include "salida/formas_modales.h"
 #include "sismico/frecuencias.h"
 
 namespace lomaterra {
@@ -60,6 +61,7 @@ ResultadosDeLasFrecuenciasNaturales::ResultadosDeLasFrecuenciasNaturales(Proyect
   listas = {modos, vector};
   botones.push_back({"Modificar", "Modificar  Agregar", [this](Interfaz& ui) { Modificar(ui); }});
   botones.push_back({"BotónCopiar", "Copiar la lista", [this](Interfaz& ui) { Copiar(ui); }});
+  botones.push_back({"BotónFormaModal", "Ver la forma modal", [this](Interfaz& ui) { VerFormaModal(ui); }});
   botones.push_back({"BotónAceptar", "Aceptar y Salir", [this](Interfaz& ui) { Aceptar(ui); }});
 }
 
@@ -148,6 +150,20 @@ void ResultadosDeLasFrecuenciasNaturales::Copiar(Interfaz& ui) {
   std::string t = "Modo\tFrecuencia (rad/seg)\tPeríodo (seg)\r\n";
   for (const auto& f : lista(kModos).filas) t += f[0] + "\t" + f[1] + "\t" + f[2] + "\r\n";
   ui.CopiarAlPortapapeles(t);
+}
+
+void ResultadosDeLasFrecuenciasNaturales::VerFormaModal(Interfaz& ui) {
+  long modo = lista(kModos).seleccionada;
+  if (EsNúmero(texto("TextoModoDeVibración"))) modo = static_cast<long>(std::floor(ANúmero(texto("TextoModoDeVibración"))));
+  if (modo < 1 && p_.Sísmico.FormasModalesDadas) {
+    ui.Mensaje("Haga clic en un modo de la lista de la izquierda para ver su forma modal.");
+    return;
+  }
+  if (const std::string defecto = DefectoDeLaFormaModal(p_, modo); !defecto.empty()) {
+    ui.Mensaje(defecto);
+    return;
+  }
+  ui.MostrarFigura(FiguraFormaModal(p_, modo));
 }
 
 void ResultadosDeLasFrecuenciasNaturales::Aceptar(Interfaz& ui) {

@@ -16,6 +16,7 @@ class ResultadosDeLasFrecuenciasNaturales : public Pantalla {
   void Modificar(Interfaz& ui);   // Modificar: the frequency of the chosen row, on the screen only
   void Aceptar(Interfaz& ui);     // BotónAceptar
   void Copiar(Interfaz& ui);      // the list of modes, frequencies and periods as tab-separated text
+  void VerFormaModal(Interfaz& ui);  // the figure of the mode of the box, or of the chosen row
 
  private:
   void MostrarModos(bool estimadas);

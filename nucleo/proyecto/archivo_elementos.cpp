@@ -202,8 +202,10 @@ void EscribirCuerpoF(EscritorSecuencial& e, const Proyecto& p) {
         e.Real(t->Leer(st)).Fin();
       e.Real(s.Determinante.Leer(st)).Fin();
     }
-    e.Entero(p.Roca.MétodoModuloCortante).Fin();
-    e.Real(p.Roca.PeríodoFundamental).Fin();
+    // A soil carries here the choice of the maximum shear modulus and the height of the section
+    // from the seismic strata screen; a rock, its own method and period.
+    e.Entero(roca ? p.Roca.MétodoModuloCortante : s.MétodoGmax).Fin();
+    e.Real(roca ? p.Roca.PeríodoFundamental : s.AlturaPresa).Fin();
   }
   e.Bandera(s.RegistroDado).Fin();
   if (s.RegistroDado) {
@@ -475,8 +477,13 @@ void LeerCuerpoF(LectorSecuencial& l, Proyecto& p) {
         (*t)[st] = l.LeerReal();
       s.Determinante[st] = static_cast<DatosSísmicos::Entero>(l.LeerEntero());
     }
-    p.Roca.MétodoModuloCortante = l.LeerEntero();
-    p.Roca.PeríodoFundamental = l.LeerReal();
+    if (roca) {
+      p.Roca.MétodoModuloCortante = l.LeerEntero();
+      p.Roca.PeríodoFundamental = l.LeerReal();
+    } else {
+      s.MétodoGmax = l.LeerEntero();
+      s.AlturaPresa = l.LeerReal();
+    }
   }
   l.LeerBandera(s.RegistroDado);
   if (s.RegistroDado) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 #include "elementos/rigidez.h"
 #include "proyecto/interfaz.h"
@@ -319,6 +320,20 @@ bool CondensarMatrices(Proyecto& p, Interfaz& ui, MatricesSísmicas& s) {
     }
   }
   PropiedadesDeLosGrados(p, s.Libres);
+  // 5. After a response run, the degrees free along x and along y, nodes ascending.
+  d.ListaGradosX.Borrar();
+  d.ListaGradosY.Borrar();
+  d.NúmeroGradosX = d.NúmeroGradosY = 0;
+  if (d.ResultadosSísmicos) {
+    std::vector<long> gx, gy;
+    for (long g : s.Libres) (g % 2 ? gx : gy).push_back(g);
+    for (auto [lista, número, grados] : {std::tuple{&d.ListaGradosX, &d.NúmeroGradosX, &gx},
+                                         std::tuple{&d.ListaGradosY, &d.NúmeroGradosY, &gy}}) {
+      lista->Redimensionar(static_cast<long>(grados->size()));
+      for (std::size_t k = 0; k < grados->size(); ++k) (*lista)[static_cast<long>(k + 1)] = (*grados)[k];
+      *número = static_cast<DatosSísmicos::Entero>(grados->size());
+    }
+  }
   d.GradosDeLibertadEstimados = true;
   d.MatricesSísmicasDadas = true;
   p.DatosGuardados = false;

@@ -38,6 +38,7 @@
 #include "salida/registro_sismico.h"
 #include "sismico/formas_modales.h"
 #include "sismico/registro.h"
+#include "salida/formas_modales.h"
 #include "salida/malla_resultados.h"
 #include "elementos/viscoplastico.h"
 #include "salida_figura_qt.h"
@@ -502,6 +503,44 @@ int main(int argc, char** argv) {
         if (const EntradaMenú* e = BuscarEntrada(árbol, orden)) EjecutarComando(e->acción, p, ui);
       } catch (const Corte&) {
       }
+    }
+  }
+  {
+    // The sample dam up to its modes: the first three mode shapes and the frequencies screen.
+    Proyecto p;
+    InterfazGuionada lector;
+    QString error;
+    if (LeerProyecto(p, LOMATERRA_EJEMPLO_PRESA, lector)) {
+      InterfazGuionada guion("NSNNSS", true);
+      const auto árbol = ÁrbolDeMenús();
+      for (const char* orden : {"IncrementeNúmeroDeElementos", "GradosDeLibertad", "DeterminaciónDeLasFrecuencias",
+                                "CálculoDeLoVectoresDeFormaModales"})
+        if (const EntradaMenú* e = BuscarEntrada(árbol, orden)) EjecutarComando(e->acción, p, guion);
+      for (long modo = 1; modo <= 3; ++modo)
+        if (DefectoDeLaFormaModal(p, modo).empty() &&
+            !ExportarPNG(FiguraFormaModal(p, modo), QDir(carpeta).filePath(Q("figura_FormaModal" + std::to_string(modo)) + ".png"), &error))
+          ++fallos;
+      if (DefectoDeLaFormaModal(p, 1).empty()) {
+        QDialog* diálogo = CrearDiálogoFigura(nullptr, FiguraFormaModal(p, 1));
+        Guardar(*diálogo, "diálogo_FormaModal1");
+        delete diálogo;
+      } else {
+        ++fallos;
+      }
+      p.Sísmico.ModoDeCálculo = 1;
+      InterfazGuionada mudo;
+      InterfazQt ui;
+      ui.Sustituto(&mudo);
+      ui.AlMostrar([](VistaPantalla& vista) {
+        Guardar(vista, vista.pantalla().nombre + "_presa");
+        throw Corte{};
+      });
+      try {
+        if (const EntradaMenú* e = BuscarEntrada(árbol, "DeterminaciónDeLasFrecuencias")) EjecutarComando(e->acción, p, ui);
+      } catch (const Corte&) {
+      }
+    } else {
+      ++fallos;
     }
   }
   {
