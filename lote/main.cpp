@@ -320,7 +320,7 @@ int Correr(const std::vector<std::string>& argumentos) {
       }
     }
   if (o.json) {
-    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, "", ""};
+    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, "", "", ""};
     informe.elementos = ElementosComoJson(p);
     informe.sísmico = SísmicoComoJson(p, historias);
     informe.modos = ModosComoJson(p);
