@@ -238,6 +238,11 @@ int Correr(const std::vector<std::string>& argumentos) {
 
   Proyecto p;
   InterfazLote ui(o.respuestas, o.porDefecto);
+  if (o.modo)
+    ui.GuionPantalla("ResultadosDeLasFrecuenciasNaturales", [modo = *o.modo](Pantalla& pantalla, Interfaz& i) {
+      pantalla.texto("TextoModoDeVibración") = modo;
+      pantalla.Pulsar("BotónAceptar", i);
+    });
   if (!LeerProyecto(p, o.proyecto, ui)) {
     std::cerr << "lomaterra-lote: no se pudo leer el proyecto \"" << o.proyecto << "\".\n";
     return kUsoIncorrecto;
@@ -320,7 +325,7 @@ int Correr(const std::vector<std::string>& argumentos) {
       }
     }
   if (o.json) {
-    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, "", ""};
+    InformeLote informe{o.proyecto, o.comandos, ui.Líneas(), fallo, resumen, búsqueda, "", "", ""};
     informe.elementos = ElementosComoJson(p);
     informe.sísmico = SísmicoComoJson(p, historias);
     informe.modos = ModosComoJson(p);

@@ -1,5 +1,6 @@
 #include "opciones.h"
 
+#include <cstdlib>
 #include <functional>
 
 namespace lomaterra::lote {
@@ -7,7 +8,7 @@ namespace lomaterra::lote {
 const char* const kUso =
     "Uso: lomaterra-lote PROYECTO.cod COMANDO [COMANDO ...] [--respuestas SNSN...] "
     "[--por-defecto S|N] [--json SALIDA.json] [--guardar OTRO.cod] [--pdf INFORME.pdf] "
-    "[--figura NOMBRE=ARCHIVO.png|.svg ...] [--historias NODOS:ELEMENTOS]\n"
+    "[--figura NOMBRE=ARCHIVO.png|.svg ...] [--historias NODOS:ELEMENTOS] [--modo N]\n"
     "\n"
     "Lee el proyecto, corre los comandos del menú por su nombre de control (por ejemplo\n"
     "MétodoFellenius) y muestra lo que cada comando dijo y un resumen de los resultados.\n"
@@ -107,6 +108,15 @@ const std::vector<OpciónConValor>& TablaOpciones() {
       {"--historias",
        [](const std::string& v, Opciones& o) -> std::string {
          o.historias = v;
+         return "";
+       }},
+      {"--modo",
+       [](const std::string& v, Opciones& o) -> std::string {
+         char* fin = nullptr;
+         const long n = std::strtol(v.c_str(), &fin, 10);
+         if (v.empty() || *fin != '\0' || n < 1)
+           return "--modo necesita un número entero de modo desde 1, y se dio \"" + v + "\".";
+         o.modo = v;
          return "";
        }},
       {"--guardar",

@@ -22,6 +22,7 @@ struct Opciones {
   std::optional<std::string> pdf;  // the results report
   std::optional<std::string> búsqueda;  // options of the command BúsquedaCírculoCrítico (JSON)
   std::vector<std::pair<std::string, std::string>> figuras;  // (menu control name, .png or .svg file)
+  std::optional<std::string> modo;  // the mode typed on the frequencies screen
   std::optional<std::string> historias;  // NODOS:ELEMENTOS of the seismic time histories in the JSON
   bool ayuda = false;
 };

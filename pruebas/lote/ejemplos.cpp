@@ -115,17 +115,9 @@ Proyecto TaludEstratificado() {
                   {0.5, 34, 1.9, 2.1, 0, 0, 0, 0, {{60, -10}, {0, -10}}},
               });
   p.ParámetrosIniciales.NúmeroDovelas = 25;
-  p.NúmeroCargasUniformes = 1;
-  p.CargaUniforme.Redimensionar(1);
-  p.CargaUniforme.xo[1] = 41; p.CargaUniforme.yo[1] = 20;
-  p.CargaUniforme.xf[1] = 45; p.CargaUniforme.yf[1] = 20;
-  p.CargaUniforme.qx[1] = 0; p.CargaUniforme.qy[1] = 2;
-  p.CargasUniformesDadas = true;
-  p.NúmeroCargasPuntuales = 1;
-  p.CargaPuntual.Redimensionar(1);
-  p.CargaPuntual.Xpuntual[1] = 43; p.CargaPuntual.Ypuntual[1] = 20;
-  p.CargaPuntual.Px[1] = 0; p.CargaPuntual.Py[1] = 5;
-  p.CargasPuntualesDadas = true;
+  CargasUniformes(p, {{41, 45, 0, 2}});
+  p.CargaUniforme.yo[1] = p.CargaUniforme.yf[1] = 20;
+  CargasPuntuales(p, {{43, 20, 0, 5}});
   auto& g = p.GrietaTracción;
   g.AbscisaPrimerPunto = 46; g.OrdenadaPrimerPunto = 20;
   g.AbscisaSegundoPunto = 46; g.OrdenadaSegundoPunto = 17;

@@ -2,14 +2,7 @@
 // soil mechanics of the sample puts it.
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-
-#include <cstdlib>
-#include <fstream>
-
-#include "apoyo/apoyo.h"
 #include "lote/lote_apoyo.h"
-#include "proyecto/comandos.h"
 
 namespace lomaterra::pruebas {
 namespace {
@@ -58,9 +51,8 @@ TEST(FelleniusEnEjemplos, FactorEnUnRangoRazonable) {
     SCOPED_TRACE(c.archivo);
     const ValorJson v = LoteJson(c.archivo, "MétodoFellenius");
     // The run ended with the closing message of the method, not with a fault.
-    const ValorJson* t = v.Campo("transcripción");
-    ASSERT_TRUE(t && !t->lista.empty());
-    EXPECT_NE(t->lista.back().texto.find("por el método de Fellenius para suelos."), std::string::npos);
+    ASSERT_FALSE(Transcrito(v).empty());
+    EXPECT_NE(Transcrito(v).back().find("por el método de Fellenius para suelos."), std::string::npos);
     const ValorJson* fs = v.Campo("FactorDeSeguridad");
     ASSERT_TRUE(fs && fs->tipo == ValorJson::Número);
     const double valor = fs->número * c.escala;

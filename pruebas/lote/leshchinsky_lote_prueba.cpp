@@ -3,15 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <sys/wait.h>
-
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "apoyo/apoyo.h"
 #include "lote/lote_apoyo.h"
 #include "proyecto/compat.h"
 
@@ -33,8 +27,7 @@ TEST(LeshchinskyLote, ElEjemploIteraHastaQueLasSumasPasan) {
         l == "[pregunta] Resultados de las iteraciones | ¿Considera que es la solución? -> N";
     noSalir += l == "[pregunta] Resultados de las iteraciones | ¿Desea salir del cálculo? -> N";
     fin = fin || l == "[mensaje]  | Se finalizó el cálculo de esfuerzos y factor de seguridad, por "
-                      "el método de "
-                      "Leshchinsky and Ching-Chuan Huang para suelos.";
+                      "el método de Leshchinsky and Ching-Chuan Huang para suelos.";
   }
   EXPECT_GE(pasos, 1);
   EXPECT_EQ(noEsSolución, pasos);

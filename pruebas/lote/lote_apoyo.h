@@ -59,4 +59,11 @@ inline ValorJson LoteJson(const std::string& ejemplo, const std::string& órdene
   return v;
 }
 
+// The transcript lines that a JSON summary carries; empty when it has none.
+inline std::vector<std::string> Transcrito(const ValorJson& v) {
+  std::vector<std::string> r;
+  if (const ValorJson* t = v.Campo("transcripción")) for (const auto& l : t->lista) r.push_back(l.texto);
+  return r;
+}
+
 }  // namespace lomaterra::pruebas

@@ -3,19 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 
-#include "apoyo/apoyo.h"
+#include "lote/lote_apoyo.h"
 
 namespace lomaterra::pruebas {
 namespace {
 
 TEST(LoteMalla, RigidezEnJson) {
-  const std::string carpeta = CarpetaTemporal(), json = carpeta + "/rigidez.json";
-  const std::string orden = std::string("'") + LOMATERRA_LOTE + "' '" + RutaEjemplo("talud_elementos.cod") +
-                            "' IncrementeNúmeroDeElementos --respuestas S --rigidez-json '" + json + "' > /dev/null 2>&1";
-  ASSERT_EQ(std::system(orden.c_str()), 0);
+  const std::string json = CarpetaTemporal() + "/rigidez.json";
+  ASSERT_EQ(Lote({RutaEjemplo("talud_elementos.cod"), "IncrementeNúmeroDeElementos", "--respuestas", "S",
+                  "--rigidez-json", json}).estado, 0);
   // 256 triangles refined to 1024 over 33 × 17 nodes: 1122 degrees of freedom on the diagonal.
   const std::string texto = LeerArchivo(json);
   // One object a node, element and restriction (the 33 rows carried over), one for the whole and

@@ -17,3 +17,22 @@ TEST(LoteModos, FrecuenciasPeríodosYVectoresEnJson) {
 }
 
 }  // namespace lomaterra::pruebas
+
+namespace lomaterra::pruebas {
+
+// With the mode typed on the frequencies screen by --modo, each of the three response runs goes
+// through the 300 steps of the sample's record (the 75% question answered "continue").
+TEST(LoteModos, ConElModoElegidoCadaRespuestaRecorreElRegistro) {
+  for (const std::string orden : {"MétodoIntegralDuhamel", "MétodoPasoAPasoEcMovimientoSinDesacoplar", "PasoAPasoDesacoplado"}) {
+    const ValorJson v = LoteJson("presa_sismica.cod", "IncrementeNúmeroDeElementos GradosDeLibertad DeterminaciónDeLasFrecuencias "
+                                                      "CálculoDeLoVectoresDeFormaModales DeterminaciónDeLasFrecuencias " +
+                                                          orden + " --modo 1 --respuestas NSNNSS --por-defecto S");
+    const ValorJson* s = v.Campo("sismico");
+    ASSERT_TRUE(s && s->Campo("PasosCalculados")) << orden;
+    EXPECT_EQ(s->Campo("Método")->texto, orden);
+    EXPECT_EQ(s->Campo("PasosCalculados")->número, 300);
+    EXPECT_EQ(s->Campo("Tiempo")->lista.size(), 300u);
+  }
+}
+
+}  // namespace lomaterra::pruebas

@@ -19,14 +19,12 @@ namespace {
 
 const std::string kPreguntaCarpeta =
     "Existe una carpeta ya creada en c:\\ con el nombre CarpetaTaludEstratoNF?. Esa carpeta "
-    "contiene un archivo "
-    "con nombre 'taludestratosNF.cod', con el total de las coordenadas que definen la geometría de "
-    "la superficie "
-    "del talud, la geometría de los estratos y del nivel freático.?";
+    "contiene un archivo con nombre 'taludestratosNF.cod', con el total de las coordenadas que "
+    "definen la geometría de la superficie del talud, la geometría de los estratos y del nivel "
+    "freático.?";
 const std::string kPreguntaYaExisten =
     "Ya existen coordenadas de la superficie del talud y número de estratos. Desea cargar la "
-    "geometría del talud, "
-    "de los estratos y nivel freático, a partir de un archivo ya creado.?";
+    "geometría del talud, de los estratos y nivel freático, a partir de un archivo ya creado.?";
 
 class ArchivoLateral : public ::testing::Test {
  protected:

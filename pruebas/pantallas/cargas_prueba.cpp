@@ -5,7 +5,6 @@
 
 #include "pantallas/form7.h"
 #include "pantallas/form8.h"
-#include "proyecto/comandos.h"
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
 
@@ -140,18 +139,6 @@ TEST(Puntuales, ComprobacionesSignosYGuardado) {
   EXPECT_TRUE(p.CargasPuntualesDadas);
   EXPECT_DOUBLE_EQ(p.CargaPuntual.Xpuntual[1], 12);
   EXPECT_DOUBLE_EQ(p.CargaPuntual.Py[1], 7.5);
-}
-
-TEST(Comandos, LasPantallasDeEntradaEstánEnElMenú) {
-  const auto árbol = ÁrbolDeMenús();
-  for (const char* c : {"MenúInformación", "CaracterísticasGeomecánicasSuelos", "MénuGeometríaEntrePuntosSuperficieFalla",
-                        "CargasUniformes", "CargasPuntuales", "MenúArchivoConstantes",
-                        "ParámetrosInicialesDeCálculoElementosFinitos"})
-  {
-    const EntradaMenú* e = BuscarEntrada(árbol, c);
-    ASSERT_NE(e, nullptr) << c;
-    EXPECT_TRUE(e->Habilitada()) << c;
-  }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "apoyo/guion.h"
 #include "pantallas/comandos_coordenadas.h"
 #include "pantallas/form4.h"
 #include "proyecto/ventana_principal.h"
@@ -16,20 +17,22 @@
 namespace lomaterra {
 namespace {
 
-std::vector<std::string> Líneas(const InterfazGuionada& ui) {
-  std::vector<std::string> r;
-  for (const auto& a : ui.Transcripción()) r.push_back(InterfazGuionada::Línea(a));
+using pruebas::Renglones;
+
+// Rows 1..n of a column, to compare a whole column at once.
+template <class T>
+std::vector<double> Filas(const Tabla<T>& t) {
+  std::vector<double> r;
+  for (long i = 1; i <= t.Tamaño(); ++i) r.push_back(static_cast<double>(t.Leer(i)));
   return r;
 }
 
 const std::string kInsertado =
     "[mensaje] Insertar estrato | YA SE INSERTÓ EL ESTRATO: Ahora vaya inmediatamente al menú "
-    "'Parámetros y "
-    "Cargas' y dé las 'Características Geomecánicas' del estrato insertado. Si trabaja con "
-    "elementos finitos, "
-    "vaya también al menú 'Elementos finitos' y dé los 'Parámetros de los estratos' y los "
-    "'Parámetros de los "
-    "estratos para el cálculo sísmico' del estrato insertado.";
+    "'Parámetros y Cargas' y dé las 'Características Geomecánicas' del estrato insertado. Si "
+    "trabaja con elementos finitos, vaya también al menú 'Elementos finitos' y dé los 'Parámetros "
+    "de los estratos' y los 'Parámetros de los estratos para el cálculo sísmico' del estrato "
+    "insertado.";
 
 class Coordenadas : public ::testing::Test {
  protected:
@@ -87,7 +90,7 @@ TEST_F(Coordenadas, SinInformaciónDelProyectoNingúnComandoDeEntradaAbre) {
     InterfazGuionada i("SSSS");
     comando(p, i);
     EXPECT_EQ(
-        Líneas(i),
+        Renglones(i),
         std::vector<std::string>{
             "[mensaje] Información requerida | Debe dar la información del proyecto. Entre al "
             "menú 'Archivo'"});
@@ -105,10 +108,12 @@ TEST_F(Coordenadas, TodosLosComandosEstánEnElMenú) {
         "MenúCoordenadasFalla", "MenúCoordenadasFreático", "MenúCoordenadasEstratos",
         "MenúInsertarEstrato", "MenúEliminarEstrato", "MenúEliminarNivelFreático", "ArchivoNuevo",
         "MenúArchivoAbrir", "MenúArchivoGuardar", "MenúArchivoGuardarComo", "MenúArchivoSalir",
-        "MenúAyudaContenido", "MenúAyudaAcercaDe"}) {
+        "MenúAyudaContenido", "MenúAyudaAcercaDe", "MenúInformación", "CaracterísticasGeomecánicasSuelos",
+        "MénuGeometríaEntrePuntosSuperficieFalla", "CargasUniformes", "CargasPuntuales",
+        "MenúArchivoConstantes", "ParámetrosInicialesDeCálculoElementosFinitos"}) {
     const EntradaMenú* e = BuscarEntrada(árbol, n);
     ASSERT_NE(e, nullptr) << n;
-    EXPECT_TRUE(static_cast<bool>(e->acción)) << n;
+    EXPECT_TRUE(e->Habilitada()) << n;
   }
 }
 
@@ -127,20 +132,16 @@ TEST_F(Coordenadas, InsertarSeNiegaMientrasFalteInformaciónDeUnEstratoInsertado
   const Caso casos[] = {
       {&Proyecto::CaracterísticasSueloCompletas,
        "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
-       "estrato ya "
-       "insertado para ser considerado como un suelo."},
+       "estrato ya insertado para ser considerado como un suelo."},
       {&Proyecto::CaracterísticasRocaCompletas,
        "Falta darle al programa las Características geomecánicas (menú parámetros y cargas) de un "
-       "estrato ya "
-       "insertado para ser considerado como una roca."},
+       "estrato ya insertado para ser considerado como una roca."},
       {&Proyecto::ParámetrosEstratoCompletos,
        "Falta darle al programa los Parámetros de los estratos (menú elementos finitos) de un "
-       "estrato ya "
-       "insertado para el cálculo elástico, viscoplástico o plástico."},
+       "estrato ya insertado para el cálculo elástico, viscoplástico o plástico."},
       {&Proyecto::ParámetrosSísmicosCompletos,
        "Falta darle al programa los Parámetros de los estratos para el cálculo sísmico (menú "
-       "elementos finitos) "
-       "de un estrato ya insertado."},
+       "elementos finitos) de un estrato ya insertado."},
   };
   DosEstratosDeSuelo();
   for (const Caso& c : casos) {
@@ -149,7 +150,7 @@ TEST_F(Coordenadas, InsertarSeNiegaMientrasFalteInformaciónDeUnEstratoInsertado
     InterfazGuionada i;
     ElegirEnForm4(i, 1);
     MenúInsertarEstrato(p, i);
-    EXPECT_EQ(Líneas(i), std::vector<std::string>{
+    EXPECT_EQ(Renglones(i), std::vector<std::string>{
                              std::string("[mensaje] Información por dar:: | ") + c.texto});
     EXPECT_EQ(p.NúmeroEstratos, 2);
     p.*c.bandera = true;
@@ -159,7 +160,7 @@ TEST_F(Coordenadas, InsertarSeNiegaMientrasFalteInformaciónDeUnEstratoInsertado
 TEST_F(Coordenadas, PrimerEstratoSinPreguntarDónde) {
   p.TipoDeMaterial = "S";
   MenúInsertarEstrato(p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{kInsertado});  // no Form4
+  EXPECT_EQ(Renglones(ui), std::vector<std::string>{kInsertado});  // no Form4
   EXPECT_EQ(p.NúmeroEstratos, 1);
   EXPECT_EQ(p.PuntosEstrato.Leer(1), 0);
   EXPECT_EQ(p.Ventana.ListaEstrato, (std::vector<std::string>{"Seleccione el estrato", "1"}));
@@ -191,21 +192,16 @@ TEST_F(Coordenadas, InsertarEntreDosEstratosMueveTodasLasFilas) {
   DosEstratosDeSuelo();
   ElegirEnForm4(ui, 2);  // between stratum 1 and stratum 2: the new one is stratum 2
   MenúInsertarEstrato(p, ui);
-  EXPECT_EQ(Líneas(ui), (std::vector<std::string>{"[pantalla] Insertar estrato", kInsertado}));
+  EXPECT_EQ(Renglones(ui), (std::vector<std::string>{"[pantalla] Insertar estrato", kInsertado}));
   ASSERT_EQ(p.NúmeroEstratos, 3);
-  EXPECT_EQ(p.PuntosEstrato[1], 2);
-  EXPECT_EQ(p.PuntosEstrato[2], 0);
-  EXPECT_EQ(p.PuntosEstrato[3], 3);
+  EXPECT_EQ(Filas(p.PuntosEstrato), (std::vector<double>{2, 0, 3}));
   EXPECT_DOUBLE_EQ(p.XEstrato(1, 1), 40);
   EXPECT_DOUBLE_EQ(p.YEstrato(1, 2), 6);
   EXPECT_DOUBLE_EQ(p.YEstrato(2, 1), 0);
   EXPECT_DOUBLE_EQ(p.XEstrato(3, 2), 20);
   EXPECT_DOUBLE_EQ(p.YEstrato(3, 3), 1);
-  EXPECT_DOUBLE_EQ(p.Estrato.Cohesión[1], 1.5);
-  EXPECT_DOUBLE_EQ(p.Estrato.Cohesión[2], 0);
-  EXPECT_DOUBLE_EQ(p.Estrato.Cohesión[3], 2.5);
-  EXPECT_EQ(p.Estrato.TipoEstrato[1], 1);
-  EXPECT_EQ(p.Estrato.TipoEstrato[3], 0);
+  EXPECT_EQ(Filas(p.Estrato.Cohesión), (std::vector<double>{1.5, 0, 2.5}));
+  EXPECT_EQ(Filas(p.Estrato.TipoEstrato), (std::vector<double>{1, 0, 0}));
   EXPECT_FALSE(p.EstratosCaracterizados);
   EXPECT_FALSE(p.CaracterísticasSueloCompletas);
   EXPECT_EQ(p.Ventana.ListaEstrato.size(), 4u);
@@ -226,9 +222,7 @@ TEST_F(Coordenadas, InsertarAntesDelPrimeroYDespuésDelÚltimo) {
   ElegirEnForm4(ui, 1);
   MenúInsertarEstrato(p, ui);
   ASSERT_EQ(p.NúmeroEstratos, 3);
-  EXPECT_EQ(p.PuntosEstrato[1], 0);
-  EXPECT_EQ(p.PuntosEstrato[2], 2);
-  EXPECT_EQ(p.PuntosEstrato[3], 3);
+  EXPECT_EQ(Filas(p.PuntosEstrato), (std::vector<double>{0, 2, 3}));
   EXPECT_FALSE(p.CaracterísticasRocaCompletas);
   EXPECT_TRUE(p.CaracterísticasSueloCompletas);
   p.CaracterísticasRocaCompletas = true;  // the rock screen has been filled
@@ -236,17 +230,15 @@ TEST_F(Coordenadas, InsertarAntesDelPrimeroYDespuésDelÚltimo) {
   ElegirEnForm4(i, 4);  // after the last of three
   MenúInsertarEstrato(p, i);
   ASSERT_EQ(p.NúmeroEstratos, 4);
-  EXPECT_EQ(p.PuntosEstrato[3], 3);
-  EXPECT_EQ(p.PuntosEstrato[4], 0);
-  EXPECT_DOUBLE_EQ(p.Estrato.Cohesión[4], 0);
-  EXPECT_DOUBLE_EQ(p.Estrato.Cohesión[3], 2.5);
+  EXPECT_EQ(Filas(p.PuntosEstrato), (std::vector<double>{0, 2, 3, 0}));
+  EXPECT_EQ(Filas(p.Estrato.Cohesión), (std::vector<double>{0, 1.5, 2.5, 0}));
 }
 
 TEST_F(Coordenadas, Form4CerradoNoInsertaNada) {
   DosEstratosDeSuelo();
   p.Ventana.ListaCoordenadas = {{1, 1}};  // a panel not yet stored stays as it is
   MenúInsertarEstrato(p, ui);             // no script: Form4 is closed with its exit button
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[pantalla] Insertar estrato"});
+  EXPECT_EQ(Renglones(ui), std::vector<std::string>{"[pantalla] Insertar estrato"});
   EXPECT_EQ(p.NúmeroEstratos, 2);
   EXPECT_TRUE(p.EstratosCaracterizados);
   EXPECT_EQ(p.Ventana.ListaCoordenadas.size(), 1u);
@@ -256,14 +248,14 @@ TEST_F(Coordenadas, EliminarEstrato) {
   DosEstratosDeSuelo();
   // Not a stratum in the panel.
   MenúEliminarEstrato(p, ui);
-  EXPECT_EQ(Líneas(ui),
+  EXPECT_EQ(Renglones(ui),
             std::vector<std::string>{"[mensaje]  | Seleccione la opción coordenadas estrato"});
   // No to the question.
   ui.Olvidar();
   MenúCoordenadasEstratos(p, ui);
   ui.Responder("N");
   MenúEliminarEstrato(p, ui);
-  EXPECT_EQ(Líneas(ui),
+  EXPECT_EQ(Renglones(ui),
             std::vector<std::string>{
                 "[pregunta]  | Desea eleminar el estrato que se muestra en pantalla? -> N"});
   EXPECT_EQ(p.NúmeroEstratos, 2);
@@ -273,7 +265,7 @@ TEST_F(Coordenadas, EliminarEstrato) {
   ui.Responder("S");
   MenúEliminarEstrato(p, ui);
   EXPECT_EQ(
-      Líneas(ui),
+      Renglones(ui),
       (std::vector<std::string>{
           "[pregunta]  | Desea eleminar el estrato que se muestra en pantalla? -> S",
           "[mensaje]  | Por favor vaya a la opción PARAMETROS INICIALES DE CALCULO e indique si "

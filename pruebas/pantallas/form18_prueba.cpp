@@ -36,9 +36,6 @@ struct Sobrescritura : ::testing::Test {
   }
 };
 
-// ------------------------------------------------------------------------------------------------
-// Form18
-
 TEST_F(Sobrescritura, Form18CambiaUnaDovelaYAceptaLasTresColumnas) {
   InterfazGuionada ui("S");
   ui.GuionPantalla("Form18", [](Pantalla& s, Interfaz& u) {
@@ -107,20 +104,15 @@ TEST_F(Sobrescritura, Form18SinParámetrosInstantáneos) {
   ASSERT_EQ(ui.Transcripción().size(), 1u);
   EXPECT_EQ(InterfazGuionada::Línea(ui.Transcripción()[0]),
             "[mensaje] PARAMETROS INSTANTANEOS | Seleccione en la PANTALLA PARAMETROS INICIALES la "
-            "opción PARAMETROS "
-            "INSTANTANEOS ");
+            "opción PARAMETROS INSTANTANEOS ");
   // The screen itself, opened with case 0 from elsewhere, says so too.
   Form18 pantalla(p);
   ui.Olvidar();
   ui.Abrir(pantalla);
   EXPECT_EQ(InterfazGuionada::Línea(ui.Transcripción().back()),
             "[mensaje] Parámetros instantáneos | Ud. debe seleccionar en PARAMETROS INICIALES LA "
-            "OPCION PARAMETROS "
-            "INSTANTANEOS");
+            "OPCION PARAMETROS INSTANTANEOS");
 }
-
-// ------------------------------------------------------------------------------------------------
-// Form34
 
 TEST_F(Sobrescritura, Form34AceptaLasPresionesDeLasDovelas) {
   p.PresionesExistentes = false;
@@ -158,56 +150,39 @@ TEST_F(Sobrescritura, Form34CancelarPreguntaYNoRegistra) {
   PresionesDePorosEquilibrioLímite(p, ui);
   const std::string pregunta =
       "Si hizo algún cambio en las presiones de poros de los elementos, debe presionar el botón "
-      "Aceptar para "
-      "tomarlos en cuenta en los análisis. ¿No desea registrar ningún cambio?";
+      "Aceptar para tomarlos en cuenta en los análisis. ¿No desea registrar ningún cambio?";
   EXPECT_EQ(ui.Textos(), (std::vector<std::string>{pregunta, pregunta}));
   EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[1], 0.125);
   EXPECT_TRUE(p.DatosGuardados);
 }
 
-struct CasoPuertaForm34 {
-  const char* tipo;
-  bool calculado;
-  int bordes;
-  const char* texto;
-};
-
-class PuertasForm34 : public Sobrescritura,
-                      public ::testing::WithParamInterface<CasoPuertaForm34> {};
-
-TEST_P(PuertasForm34, RechazaConSuTexto) {
-  p.TipoDeAnálisis = GetParam().tipo;
-  p.CálculoHecho = GetParam().calculado;
-  p.NúmeroBordes = static_cast<Entero>(GetParam().bordes);
-  InterfazGuionada ui;
-  PresionesDePorosEquilibrioLímite(p, ui);
-  EXPECT_EQ(ui.Textos(), (std::vector<std::string>{GetParam().texto}));
-  EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[1], 0.125);
+TEST_F(Sobrescritura, Form34RechazaConSuTexto) {
+  struct Caso {
+    const char* tipo;
+    bool calculado;
+    int bordes;
+    const char* texto;
+  };
+  const Caso casos[] = {
+      {"", true, 4, "Seleccione en la pantalla principal la opción <T> ó <F>"},
+      {"F", true, 4, "Ud.está trabajando con elementos finitos y no por métodos de equilibrio límites."},
+      {"T", false, 4,
+       "Ud.está trabajando por métodos de equilibrio límites. Ordene hacer el cálculo por el método "
+       "seleccionado en los parámetros iniciales y luego podrá modificar las presiones de poros de "
+       "las dovelas para un recálculo."},
+      {"T", true, 1,
+       "Ordene al programa hacer la estimación del factor de seguridad. Luego puede entrar a esta "
+       "sesión y modificar las presiones de poros y hacer un recálculo."}};
+  for (const Caso& c : casos) {
+    p.TipoDeAnálisis = c.tipo;
+    p.CálculoHecho = c.calculado;
+    p.NúmeroBordes = static_cast<Entero>(c.bordes);
+    InterfazGuionada ui;
+    PresionesDePorosEquilibrioLímite(p, ui);
+    EXPECT_EQ(ui.Textos(), (std::vector<std::string>{c.texto}));
+    EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[1], 0.125);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Form34, PuertasForm34,
-    ::testing::Values(
-        CasoPuertaForm34{"", true, 4, "Seleccione en la pantalla principal la opción <T> ó <F>"},
-        CasoPuertaForm34{
-            "F", true, 4,
-            "Ud.está trabajando con elementos finitos y no por métodos de equilibrio límites."},
-        CasoPuertaForm34{"T", false, 4,
-                         "Ud.está trabajando por métodos de equilibrio límites. Ordene hacer el "
-                         "cálculo por el método "
-                         "seleccionado en los parámetros iniciales y luego podrá modificar las "
-                         "presiones de poros de "
-                         "las dovelas para un recálculo."},
-        CasoPuertaForm34{"T", true, 1,
-                         "Ordene al programa hacer la estimación del factor de seguridad. Luego "
-                         "puede entrar a esta "
-                         "sesión y modificar las presiones de poros y hacer un recálculo."}),
-    [](const auto& i) {
-      const std::string tipo = i.param.tipo;
-      if (tipo.empty()) return std::string("SinTipo");
-      if (tipo == "F") return std::string("ElementosFinitos");
-      return std::string(i.param.calculado ? "SinDovelas" : "SinCalculo");
-    });
 
 }  // namespace
 }  // namespace lomaterra

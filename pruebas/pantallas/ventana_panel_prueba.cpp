@@ -77,17 +77,7 @@ TEST_F(Panel, OrdenDeLosPuntosAgregados) {
   EXPECT_TRUE(ui.Transcripción().empty());
 }
 
-TEST_F(Panel, AgregarMarcaLosDatosComoNoGuardadosYVacíaLasCajas) {
-  ASSERT_TRUE(p.DatosGuardados && p.ListaGuardada);
-  Agregar("12.5", "-3");
-  EXPECT_FALSE(p.DatosGuardados);
-  EXPECT_FALSE(p.ListaGuardada);
-  EXPECT_EQ(p.Ventana.TextoX, "");
-  EXPECT_EQ(p.Ventana.TextoY, "");
-  EXPECT_EQ(DelPanel(p), (Puntos{{12.5, -3}}));
-}
-
-TEST_F(Panel, CajaSinNúmeroNoAgregaNada) {
+TEST_F(Panel, UnaCajaSinNúmeroNoAgregaYUnPuntoAgregadoMarcaLosDatosYVacíaLasCajas) {
   Agregar("uno", "2");
   Agregar("1", "");
   Agregar("", "x");
@@ -95,21 +85,20 @@ TEST_F(Panel, CajaSinNúmeroNoAgregaNada) {
                                                    "Debe introducir un número en y",
                                                    "Debe introducir un número en x"}));
   EXPECT_TRUE(p.Ventana.ListaCoordenadas.empty());
-  EXPECT_TRUE(p.DatosGuardados);
-  EXPECT_TRUE(p.ListaGuardada);
+  ASSERT_TRUE(p.DatosGuardados && p.ListaGuardada);
+  Agregar("12.5", "-3");
+  EXPECT_FALSE(p.DatosGuardados);
+  EXPECT_FALSE(p.ListaGuardada);
+  EXPECT_EQ(p.Ventana.TextoX + p.Ventana.TextoY, "");
+  EXPECT_EQ(DelPanel(p), (Puntos{{12.5, -3}}));
 }
 
-TEST_F(Panel, ModificarSinFilaSeleccionada) {
-  AgregarTodos({{5, 1}, {3, 2}});
-  PanelModificar(p, ui);
-  EXPECT_EQ(ui.Textos(),
-            std::vector<std::string>{
-                "Ud no ha seleccionado ninguna fila para modificar valores ya agregados."});
-  EXPECT_EQ(DelPanel(p), (Puntos{{5, 1}, {3, 2}}));
-}
-
-TEST_F(Panel, ModificarLlevaLaFilaALasCajasYAgregarLaReubica) {
+TEST_F(Panel, ModificarLlevaLaFilaALasCajasAgregarLaReubicaYBorrarQuitaSoloLaSeleccionada) {
   AgregarTodos({{9, 1}, {6, 2}, {3, 3}});
+  PanelModificar(p, ui);  // no row selected
+  EXPECT_EQ(ui.Textos(), std::vector<std::string>{
+                             "Ud no ha seleccionado ninguna fila para modificar valores ya agregados."});
+  ui.Olvidar();
   p.Ventana.FilaSeleccionada = 2;
   PanelModificar(p, ui);
   EXPECT_EQ(p.Ventana.TextoX, "6");
@@ -119,16 +108,12 @@ TEST_F(Panel, ModificarLlevaLaFilaALasCajasYAgregarLaReubica) {
   PanelAgregar(p, ui);
   EXPECT_EQ(DelPanel(p), (Puntos{{9, 1}, {3, 3}, {1.5, 2}}));
   EXPECT_TRUE(ui.Transcripción().empty());
-}
-
-TEST_F(Panel, BorrarQuitaSoloLaFilaSeleccionada) {
-  AgregarTodos({{9, 1}, {6, 2}, {3, 3}});
   p.Ventana.FilaSeleccionada = 0;
   PanelBorrar(p, ui);
   EXPECT_EQ(p.Ventana.ListaCoordenadas.size(), 3u);
   p.Ventana.FilaSeleccionada = 3;
   PanelBorrar(p, ui);
-  EXPECT_EQ(DelPanel(p), (Puntos{{9, 1}, {6, 2}}));
+  EXPECT_EQ(DelPanel(p), (Puntos{{9, 1}, {3, 3}}));
   EXPECT_EQ(p.Ventana.FilaSeleccionada, 0);
 }
 

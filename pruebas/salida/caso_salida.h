@@ -9,20 +9,10 @@
 
 #include <cmath>
 
+#include "apoyo/proyectos.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra::pruebas {
-
-inline void PonerPuntos(TablaXY& t, Entero& n, std::initializer_list<std::pair<double, double>> puntos) {
-  n = static_cast<Entero>(puntos.size());
-  t.Redimensionar(n);
-  long i = 0;
-  for (const auto& [x, y] : puntos) {
-    ++i;
-    t.X[i] = x;
-    t.Y[i] = y;
-  }
-}
 
 inline Proyecto CasoTresDovelas() {
   Proyecto p;
@@ -31,24 +21,16 @@ inline Proyecto CasoTresDovelas() {
   p.InformaciónDada = true;
   p.InformaciónProyecto = {"K0+100", "K0+160", "21/11/2026", "Ing. Ana Pérez", "Geotecnia Andina"};
   p.Ventana.TextoProyecto = "Talud de prueba de la vía norte";
-  PonerPuntos(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{30, 10}, {20, 10}, {8, 0}, {0, 0}});
-  PonerPuntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{25, 10}, {15, 2}, {8, 0}});
-  PonerPuntos(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{30, 4}, {15, 1.5}, {0, 0}});
-  p.NúmeroTramosFalla = 1;
-  p.TramoFalla.Redimensionar(1);
-  p.TramoFalla.PuntoInicial[1] = 1;
-  p.TramoFalla.PuntoFinal[1] = 3;
-  p.TramoFalla.TipoUnión[1] = "L";
-  p.GeometríaFallaDefinida = true;
+  PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{30, 10}, {20, 10}, {8, 0}, {0, 0}});
+  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{25, 10}, {15, 2}, {8, 0}});
+  PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{30, 4}, {15, 1.5}, {0, 0}});
+  PonerTramos(p, {{1, 3, "L"}});
   p.NúmeroEstratos = 1;
   p.PuntosEstrato.Redimensionar(1);
   p.PuntosEstrato[1] = 2;
   p.XEstrato.Redimensionar(1, 2);
   p.YEstrato.Redimensionar(1, 2);
-  p.XEstrato(1, 1) = 30;
-  p.YEstrato(1, 1) = -5;
-  p.XEstrato(1, 2) = 0;
-  p.YEstrato(1, 2) = -5;
+  p.XEstrato(1, 1) = 30, p.YEstrato(1, 1) = -5, p.XEstrato(1, 2) = 0, p.YEstrato(1, 2) = -5;
   p.Estrato.RedimensionarConservando(1);
   p.Estrato.Cohesión[1] = 1.5;
   p.Estrato.Fricción[1] = 30;
@@ -56,20 +38,9 @@ inline Proyecto CasoTresDovelas() {
   p.Estrato.PesoUnitarioSaturado[1] = 2.0;
   p.EstratosCaracterizados = true;
   p.NúmeroEstratosCaracterizados = 1;
-  p.NúmeroCargasUniformes = 1;
-  p.CargasUniformesDadas = true;
-  p.CargaUniforme.Redimensionar(1);
-  p.CargaUniforme.xo[1] = 21;
-  p.CargaUniforme.yo[1] = 10;
-  p.CargaUniforme.xf[1] = 28;
-  p.CargaUniforme.yf[1] = 10;
-  p.CargaUniforme.qy[1] = 2;
-  p.NúmeroCargasPuntuales = 1;
-  p.CargasPuntualesDadas = true;
-  p.CargaPuntual.Redimensionar(1);
-  p.CargaPuntual.Xpuntual[1] = 22;
-  p.CargaPuntual.Ypuntual[1] = 10;
-  p.CargaPuntual.Py[1] = 5;
+  CargasUniformes(p, {{21, 28, 0, 2}});
+  p.CargaUniforme.yo[1] = p.CargaUniforme.yf[1] = 10;
+  CargasPuntuales(p, {{22, 10, 0, 5}});
   p.ParámetrosInicialesDados = true;
   p.ParámetrosIniciales.MétodoDeCálculo = 2;
   p.ParámetrosIniciales.FSInicial = 1;

@@ -101,7 +101,7 @@ TEST_F(Figuras, LasCargasSeDibujanComoFlechasQueEmpujanElTalud) {
 TEST_F(Figuras, ElArcoCircularPasaPorSusPuntosConElCentroSobreLaCuerda) {
   // P1 = (20, 10), P2 = (0, 0), R = 15: half chord √125, distance from the middle (10, 5) to the
   // centre √(225 − 125) = 10 along the upward normal (−1, 2)/√5: centre (10 − 2√5, 5 + 4√5).
-  pruebas::PonerPuntos(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{20, 10}, {0, 0}});
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{20, 10}, {0, 0}});
   p.TramoFalla.PuntoFinal[1] = 2;
   p.TramoFalla.TipoUnión[1] = "C";
   p.ParámetrosIniciales.Radio = 15;

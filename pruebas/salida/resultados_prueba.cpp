@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <cmath>
 #include <string>
 #include <vector>
 
+#include "apoyo/guion.h"
 #include "pantallas/anclajes.h"
 #include "pantallas/resultados.h"
 #include "proyecto/comandos.h"
@@ -24,12 +26,6 @@ void Ejecutar(const std::string& nombre, Proyecto& p, Interfaz& ui) {
   ASSERT_NE(e, nullptr) << nombre;
   ASSERT_TRUE(static_cast<bool>(e->acción)) << nombre << " no está enlazada";
   EjecutarComando(e->acción, p, ui);
-}
-
-std::vector<std::string> Líneas(const InterfazGuionada& ui) {
-  std::vector<std::string> r;
-  for (const auto& a : ui.Transcripción()) r.push_back(InterfazGuionada::Línea(a));
-  return r;
 }
 
 const std::vector<std::string> kÓrdenesDeResultados{
@@ -52,65 +48,59 @@ class Presentación : public ::testing::Test {
   InterfazGuionada ui;
 };
 
-TEST_F(Presentación, SinTipoDeAnálisisOConElementosFinitosNadaSePresenta) {
-  for (const char* tipo : {"", "F"}) {
-    p.TipoDeAnálisis = tipo;
-    std::vector<std::string> órdenes = kÓrdenesDeResultados;
-    órdenes.push_back("ResultadosCálculoRocas");
-    órdenes.push_back("GráficoGeometría");
-    for (const auto& o : órdenes) {
-      ui.Olvidar();
-      Ejecutar(o, p, ui);
-      const std::string esperado =
-          *tipo == 0 ? "[mensaje]  | Seleccione en la pantalla principal la opción <T> ó <F>"
-                     : "[mensaje]  | Ud. está trabajando con elementos finitos";
-      EXPECT_EQ(Líneas(ui), std::vector<std::string>{esperado}) << o;
+// Each gate of the presentation commands, word for word: after the change to the three-slice
+// case, every command listed answers with just that line.
+TEST_F(Presentación, CadaPuertaDeLasÓrdenesConSusPalabras) {
+  auto todas = kÓrdenesDeResultados;
+  todas.insert(todas.end(), {"ResultadosCálculoRocas", "GráficoGeometría"});
+  const std::vector<std::string> principales = {
+      "GráficoEsfuerzoPrincipalMenor", "GráficoEsfuerzoPrincipalMayor", "GráficoDeEsfuerzosPrincipales"};
+  struct Caso {
+    std::function<void(Proyecto&)> cambio;
+    std::vector<std::string> órdenes;
+    std::string línea;
+  };
+  const std::vector<Caso> casos = {
+      {[](Proyecto& q) { q.TipoDeAnálisis = ""; }, todas,
+       "[mensaje]  | Seleccione en la pantalla principal la opción <T> ó <F>"},
+      {[](Proyecto& q) { q.TipoDeAnálisis = "F"; }, todas,
+       "[mensaje]  | Ud. está trabajando con elementos finitos"},
+      {[](Proyecto& q) { q.TipoDeMaterial = "S"; }, {"ResultadosCálculoRocas"},
+       "[mensaje] Esta presentación es para roca: | Ud ha seleccionado la opción 'suelos' en los "
+       "parámetros iniciales  "},
+      {[](Proyecto& q) { q.TipoDeMaterial = "R"; }, {"ResultadosCálculoSuelos"},
+       "[mensaje] Esta presentación es para SUELOS: | Ud ha seleccionado la opción 'ROCA' en los "
+       "parámetros iniciales  "},
+      {[](Proyecto& q) { q.NúmeroIteraciones = 0; }, kÓrdenesDeResultados,
+       "[mensaje] Resultados del cálculo | No hay resultados de un cálculo por equilibrio límite. "
+       "Vaya al menú 'Equilibrio límite' y ordene 'Calcular factor de seguridad'."},
+      {[](Proyecto&) {}, principales,
+       "[mensaje] Esfuerzos principales | Este cálculo, hecho por el método de Bishop A. W. en "
+       "suelos, no da los esfuerzos principales. Los calculan los métodos para rocas (Leshchinsky "
+       "- Hoek - Brown y Janbu en rocas); para los demás gráficos los resultados de este cálculo "
+       "están disponibles."},
+      // The geometry needs the slope, not a calculation.
+      {[](Proyecto& q) { q.NúmeroIteraciones = 0; }, {"GráficoGeometría"},
+       "[figura] Geometría del talud | GráficoGeometría"},
+      {[](Proyecto& q) { q.NúmeroPuntosTalud = 0; }, {"GráficoGeometría"},
+       "[mensaje] Geometría del talud | No hay coordenadas del talud para dibujar. Vaya al menú "
+       "'Coordenadas' y entre las del talud."},
+      {[](Proyecto&) {}, {"ImprimirInformaciónDadaAlPrograma"},
+       "[imprimir] Información dada al programa"},
+      {[](Proyecto&) {}, {"ImprimirResultadosAnálisisMétodosEquilibrioLímites"},
+       "[imprimir] Resultados del análisis por equilibrio límite"},
+      {[](Proyecto& q) { q.InformaciónDada = false; }, {"ImprimirInformaciónDadaAlPrograma"},
+       "[mensaje] Información requerida | Debe dar la información del proyecto. Entre al menú "
+       "'Archivo'"},
+  };
+  for (const Caso& c : casos)
+    for (const auto& o : c.órdenes) {
+      Proyecto q = pruebas::CasoTresDovelas();
+      c.cambio(q);
+      InterfazGuionada i;
+      Ejecutar(o, q, i);
+      EXPECT_EQ(pruebas::Renglones(i), std::vector<std::string>{c.línea}) << o;
     }
-  }
-}
-
-TEST_F(Presentación, CadaPantallaDeResultadosEsParaSuMaterial) {
-  p.TipoDeMaterial = "S";
-  Ejecutar("ResultadosCálculoRocas", p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                            "[mensaje] Esta presentación es para roca: | Ud ha seleccionado la "
-                            "opción 'suelos' en los parámetros iniciales  "});
-  ui.Olvidar();
-  p.TipoDeMaterial = "R";
-  Ejecutar("ResultadosCálculoSuelos", p, ui);
-  EXPECT_EQ(Líneas(ui), std::vector<std::string>{
-                            "[mensaje] Esta presentación es para SUELOS: | Ud ha seleccionado la "
-                            "opción 'ROCA' en los parámetros iniciales  "});
-}
-
-TEST_F(Presentación, SinCálculoCadaOrdenDiceAQuéMenúIr) {
-  // A project whose slices were never calculated: no factor of safety in the history.
-  p.NúmeroIteraciones = 0;
-  for (const auto& o : kÓrdenesDeResultados) {
-    ui.Olvidar();
-    Ejecutar(o, p, ui);
-    EXPECT_EQ(Líneas(ui),
-              std::vector<std::string>{
-                  "[mensaje] Resultados del cálculo | No hay resultados de un cálculo por "
-                  "equilibrio límite. "
-                  "Vaya al menú 'Equilibrio límite' y ordene 'Calcular factor de seguridad'."})
-        << o;
-  }
-}
-
-TEST_F(Presentación, LosEsfuerzosPrincipalesSoloSiElMétodoLosDio) {
-  for (const char* o : {"GráficoEsfuerzoPrincipalMenor", "GráficoEsfuerzoPrincipalMayor",
-                        "GráficoDeEsfuerzosPrincipales"}) {
-    ui.Olvidar();
-    Ejecutar(o, p, ui);
-    EXPECT_EQ(Líneas(ui),
-              std::vector<std::string>{
-                  "[mensaje] Esfuerzos principales | Este cálculo, hecho por el método de Bishop "
-                  "A. W. en suelos, no da los esfuerzos principales. Los calculan los métodos para "
-                  "rocas (Leshchinsky - Hoek - Brown y Janbu en rocas); para los demás gráficos "
-                  "los resultados de este cálculo están disponibles."})
-        << o;
-  }
 }
 
 TEST_F(Presentación, CadaGráficoSeMuestraPorElPuertoConSuTítulo) {
@@ -137,36 +127,8 @@ TEST_F(Presentación, CadaGráficoSeMuestraPorElPuertoConSuTítulo) {
   for (const auto& [orden, título] : casos) {
     ui.Olvidar();
     Ejecutar(orden, p, ui);
-    EXPECT_EQ(Líneas(ui), std::vector<std::string>{"[figura] " + título + " | " + orden});
+    EXPECT_EQ(pruebas::Renglones(ui), std::vector<std::string>{"[figura] " + título + " | " + orden});
   }
-}
-
-TEST_F(Presentación, LaGeometríaSeDibujaSinCálculoPeroNoSinTalud) {
-  p.NúmeroIteraciones = 0;
-  Ejecutar("GráficoGeometría", p, ui);
-  EXPECT_EQ(Líneas(ui),
-            std::vector<std::string>{"[figura] Geometría del talud | GráficoGeometría"});
-  ui.Olvidar();
-  p.NúmeroPuntosTalud = 0;
-  Ejecutar("GráficoGeometría", p, ui);
-  EXPECT_EQ(Líneas(ui),
-            std::vector<std::string>{
-                "[mensaje] Geometría del talud | No hay coordenadas del talud para dibujar. "
-                "Vaya al menú 'Coordenadas' y entre las del talud."});
-}
-
-TEST_F(Presentación, LosInformesSeImprimenPorElPuerto) {
-  Ejecutar("ImprimirInformaciónDadaAlPrograma", p, ui);
-  Ejecutar("ImprimirResultadosAnálisisMétodosEquilibrioLímites", p, ui);
-  EXPECT_EQ(Líneas(ui),
-            (std::vector<std::string>{"[imprimir] Información dada al programa",
-                                      "[imprimir] Resultados del análisis por equilibrio límite"}));
-  ui.Olvidar();
-  p.InformaciónDada = false;
-  Ejecutar("ImprimirInformaciónDadaAlPrograma", p, ui);
-  EXPECT_EQ(Líneas(ui),
-            std::vector<std::string>{"[mensaje] Información requerida | Debe dar la información "
-                                     "del proyecto. Entre al menú 'Archivo'"});
 }
 
 TEST_F(Presentación, LaPantallaDeResultadosMuestraMétodoFactorHistoriaDovelasYSumas) {

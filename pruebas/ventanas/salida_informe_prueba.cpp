@@ -12,6 +12,7 @@
 #include "apoyo/apoyo.h"
 #include "informe_qt.h"
 #include "salida/caso_salida.h"
+#include "ventana_apoyo.h"
 #include "salida/informe.h"
 
 namespace lomaterra {
@@ -39,12 +40,7 @@ std::string Texto(const std::string& pdf, int página) {
 
 class InformePDF : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    static int argc = 1;
-    static char nombre[] = "prueba";
-    static char* argv[] = {nombre, nullptr};
-    if (!QApplication::instance()) new QApplication(argc, argv);
-  }
+  static void SetUpTestSuite() { pruebas::Aplicación(); }
   void SetUp() override {
     if (Salida("command -v pdftotext pdfinfo").empty())
       GTEST_SKIP() << "faltan pdftotext y pdfinfo (poppler-utils)";

@@ -11,6 +11,7 @@
 #include "apoyo/apoyo.h"
 #include "pintor.h"
 #include "salida/caso_salida.h"
+#include "ventana_apoyo.h"
 #include "salida/graficos.h"
 
 namespace lomaterra {
@@ -18,12 +19,7 @@ namespace {
 
 class Pintor : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    static int argc = 1;
-    static char nombre[] = "prueba";
-    static char* argv[] = {nombre, nullptr};
-    if (!QApplication::instance()) new QApplication(argc, argv);
-  }
+  static void SetUpTestSuite() { pruebas::Aplicación(); }
   Proyecto p = pruebas::CasoTresDovelas();
   std::string carpeta = pruebas::CarpetaTemporal();
 };

@@ -1,4 +1,4 @@
-// Shared by the window tests: one QApplication for the whole run, offscreen.
+// Shared by the window tests: one QApplication for the whole run, offscreen, and children by name.
 #pragma once
 
 #include <QApplication>
@@ -15,6 +15,12 @@ inline QApplication& Aplicación() {
   // every test has passed.
   static QApplication* app = new QApplication(argc, argv);
   return *app;
+}
+
+// A child widget by its control name (accents included).
+template <class T>
+T* Hijo(QObject& w, const char* nombre) {
+  return w.findChild<T*>(QString::fromUtf8(nombre));
 }
 
 }  // namespace lomaterra::pruebas

@@ -21,6 +21,8 @@
 namespace lomaterra {
 namespace {
 
+using pruebas::Hijo;
+
 class Camino : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -39,10 +41,6 @@ class Camino : public ::testing::Test {
     ASSERT_NE(a, nullptr) << nombre;
     ASSERT_TRUE(a->isEnabled()) << nombre;
     a->trigger();
-  }
-  template <class T>
-  static T* Hijo(QWidget& w, const char* nombre) {
-    return w.findChild<T*>(QString::fromUtf8(nombre));
   }
   static void Escribir(QWidget& w, const char* nombre, const char* valor) {
     auto* caja = Hijo<QLineEdit>(w, nombre);

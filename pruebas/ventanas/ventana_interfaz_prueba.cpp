@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QDialog>
-#include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
@@ -108,18 +107,6 @@ TEST_F(InterfazPrueba, ConUnSustitutoLasCajasYLosEstadosVanAél) {
   EXPECT_EQ(líneas, esperadas);
 }
 
-TEST_F(InterfazPrueba, ElArchivoDeAyudaSeEncuentraPorSuNombreYEsUnaGuía) {
-  const QString ruta = InterfazQt::BuscarAyuda("AYUDALOMATERRA.HLP");
-  ASSERT_FALSE(ruta.isEmpty());
-  QFile archivo(ruta);
-  ASSERT_TRUE(archivo.open(QIODevice::ReadOnly));
-  const QString texto = QString::fromUtf8(archivo.readAll());
-  for (const char* tema : {"Fellenius", "Bishop", "Janbu", "Leshchinsky",
-                           "Información del proyecto", "ton/m2", "Guardar"})
-    EXPECT_TRUE(texto.contains(QString::fromUtf8(tema))) << tema;
-  EXPECT_TRUE(InterfazQt::BuscarAyuda("NOEXISTE.HLP").isEmpty());
-}
-
 TEST_F(InterfazPrueba, LaAyudaSeMuestraEnUnaSolaVentanaConLaGuía) {
   QWidget ventana;
   InterfazQt ui(&ventana);
@@ -131,7 +118,10 @@ TEST_F(InterfazPrueba, LaAyudaSeMuestraEnUnaSolaVentanaConLaGuía) {
   auto* texto = ayudas.front()->findChild<QTextBrowser*>("TextoAyuda");
   ASSERT_NE(texto, nullptr);
   const QString guía = texto->toPlainText();
-  EXPECT_TRUE(guía.contains(QString::fromUtf8("Teoría: las fórmulas de cada método")));
+  for (const char* tema : {"Teoría: las fórmulas de cada método", "Fellenius", "Bishop", "Janbu",
+                           "Leshchinsky", "Información del proyecto", "ton/m2", "Guardar"})
+    EXPECT_TRUE(guía.contains(QString::fromUtf8(tema))) << tema;
+  EXPECT_TRUE(InterfazQt::BuscarAyuda("NOEXISTE.HLP").isEmpty());
   EXPECT_FALSE(guía.contains("<h2>"));  // shown as a document, not as its markup
   // A link of the contents takes the reader to its section.
   QApplication::processEvents();

@@ -24,6 +24,8 @@
 namespace lomaterra {
 namespace {
 
+using pruebas::Hijo;
+
 // A screen with one box of each kind, a list and four buttons; it notes what its code saw.
 class PantallaDePrueba : public Pantalla {
  public:
@@ -81,10 +83,6 @@ class VistaPrueba : public ::testing::Test {
     pantalla.cerrada = false;
     pantalla.Activar(guion);
   }
-  template <class T>
-  T* Hijo(VistaPantalla& v, const char* nombre) {
-    return v.findChild<T*>(QString::fromUtf8(nombre));
-  }
   PantallaDePrueba pantalla;
   InterfazGuionada guion;
 };
@@ -121,10 +119,14 @@ TEST_F(VistaPrueba, MuestraLosCamposLasListasYLosBotonesDeLaPantalla) {
   EXPECT_EQ(vista.findChildren<QPushButton*>().size(), 4);
 }
 
-TEST_F(VistaPrueba, UnBotónRecibeLoEscritoYLaFilaElegidaYLaVistaMuestraElResultado) {
+TEST_F(VistaPrueba, ElegirUnaFilaAvisaALaPantallaYUnBotónRecibeLoEscritoYLaFila) {
   VistaPantalla vista(pantalla, guion);
   vista.show();
   auto* tabla = Hijo<QTableWidget>(vista, "ListaFilas");
+  tabla->selectRow(2);  // choosing a row tells the screen, and what it filled is shown
+  ASSERT_EQ(pantalla.seleccionesVistas, std::vector<int>{3});
+  EXPECT_EQ(Hijo<QLineEdit>(vista, "TextoValor")->text(), "30.00");
+  EXPECT_EQ(pantalla.lista("ListaFilas").seleccionada, 3);
   tabla->selectRow(1);  // second row
   Hijo<QLineEdit>(vista, "TextoValor")->setText("12.5");
   Hijo<QPushButton>(vista, "BotónCopiar")->click();
@@ -136,24 +138,6 @@ TEST_F(VistaPrueba, UnBotónRecibeLoEscritoYLaFilaElegidaYLaVistaMuestraElResult
   EXPECT_TRUE(vista.isVisible());  // the screen did not close itself
 }
 
-TEST_F(VistaPrueba, ElegirUnaFilaAvisaALaPantallaYMuestraLoQueLlenó) {
-  VistaPantalla vista(pantalla, guion);
-  vista.show();
-  Hijo<QTableWidget>(vista, "ListaFilas")->selectRow(2);
-  ASSERT_EQ(pantalla.seleccionesVistas, std::vector<int>{3});
-  EXPECT_EQ(Hijo<QLineEdit>(vista, "TextoValor")->text(), "30.00");
-  EXPECT_EQ(pantalla.lista("ListaFilas").seleccionada, 3);
-}
-
-TEST_F(VistaPrueba, SeCierraCuandoLaPantallaDiceQueEstáCerrada) {
-  VistaPantalla vista(pantalla, guion);
-  vista.show();
-  Hijo<QPushButton>(vista, "BotónAceptar")->click();
-  EXPECT_TRUE(pantalla.cerrada);
-  EXPECT_FALSE(vista.isVisible());
-  EXPECT_EQ(vista.result(), QDialog::Accepted);
-}
-
 TEST_F(VistaPrueba, LaCajaDeCierreLlamaALaSalidaSinCambiosYRespetaUnaNegativa) {
   VistaPantalla vista(pantalla, guion);
   vista.show();
@@ -163,6 +147,14 @@ TEST_F(VistaPrueba, LaCajaDeCierreLlamaALaSalidaSinCambiosYRespetaUnaNegativa) {
   vista.close();
   EXPECT_EQ(pantalla.salidas, 2);
   EXPECT_FALSE(vista.isVisible());
+  // A button that closes the screen closes the view as accepted.
+  pantalla.cerrada = false;
+  VistaPantalla otra(pantalla, guion);
+  otra.show();
+  Hijo<QPushButton>(otra, "BotónAceptar")->click();
+  EXPECT_TRUE(pantalla.cerrada);
+  EXPECT_FALSE(otra.isVisible());
+  EXPECT_EQ(otra.result(), QDialog::Accepted);
 }
 
 TEST_F(VistaPrueba, UnCampoNuevoDeLaPantallaAparece) {
@@ -204,19 +196,15 @@ TEST_F(AbrirPrueba, ActivaLaPantallaYLaDejaEnManosDelUsuario) {
   EXPECT_EQ(pantalla.salidas, 0);
 }
 
-TEST_F(AbrirPrueba, UnaPantallaQueSeCierraAlActivarseNoSeMuestra) {
-  bool mostrada = false;
-  ui.AlMostrar([&](VistaPantalla&) { mostrada = true; });
-  pantalla.cerrarAlActivar = true;
-  ui.Abrir(pantalla);
-  EXPECT_FALSE(mostrada);
-  EXPECT_TRUE(pantalla.cerrada);
-}
-
-TEST_F(AbrirPrueba, UnaPantallaQueQuedaAbiertaSeCierraConSuSalida) {
-  ui.AlMostrar([](VistaPantalla&) {});
+TEST_F(AbrirPrueba, UnaPantallaQueQuedaAbiertaSeCierraConSuSalidaYUnaYaCerradaNoSeMuestra) {
+  int mostradas = 0;
+  ui.AlMostrar([&](VistaPantalla&) { ++mostradas; });
   ui.Abrir(pantalla);
   EXPECT_EQ(pantalla.salidas, 2);  // the first exit refused, the second closed
+  EXPECT_TRUE(pantalla.cerrada);
+  pantalla.cerrarAlActivar = true;
+  ui.Abrir(pantalla);
+  EXPECT_EQ(mostradas, 1);
   EXPECT_TRUE(pantalla.cerrada);
 }
 
@@ -237,12 +225,6 @@ TEST_F(AbrirPrueba, UnaFallaAritméticaDeUnBotónTerminaElComandoConSuMensaje) {
   ASSERT_EQ(guion.Transcripción().size(), 1u);
   EXPECT_EQ(guion.Transcripción()[0].título, TítuloDeFallo());
 }
-
-}  // namespace
-}  // namespace lomaterra
-
-namespace lomaterra {
-namespace {
 
 // A screen that shows its numbers and asks at once, as the iteration screens do.
 class PantallaQuePregunta : public Pantalla {
