@@ -293,6 +293,9 @@ void Corrida::Preparar() {
   s_.MétodoRespuesta = método_ == MétodoDeRespuesta::Duhamel ? 'D' : método_ == MétodoDeRespuesta::PasoAPaso ? 'P' : 'M';
   s_.SismoCalculado = s_.CálculoSísmicoHecho = false;
   s_.HistoriaNodos.clear(), s_.HistoriaElementos4.clear(), s_.HistoriaElementos3.clear();
+  // A factor of safety read from the former run's stresses no longer stands.
+  p_.Malla.FSSísmico = 0;
+  s_.FactorSísmicoMínimo = 0, s_.PasoFactorSísmico = 0, s_.ElementoFactorSísmico = 0;
 
   // The first interval is read before the first time is moved off zero.
   dtPrimero_ = s_.TiempoRegistro.Leer(2) - s_.TiempoRegistro.Leer(1);

@@ -138,8 +138,10 @@ TEST(CorridaRespuesta, CancelarDejaLosPasosHechosEnCentímetrosYSuMáximo) {
   Diagonal(p, 100);
   InterfazGuionada ui;
   ui.CancelarProgresoTras(0);
+  p.Malla.FSSísmico = p.Sísmico.FactorSísmicoMínimo = 1.3;  // a factor of a former run
   MétodoPasoAPasoEcMovimientoSinDesacoplar(p, ui);
   const DatosSísmicos& s = p.Sísmico;
+  EXPECT_EQ(p.Malla.FSSísmico + s.FactorSísmicoMínimo, 0);
   // u(2x) = -2 · 9.81 · 0.2 / 100 m = -3.924 cm; u(2y) = 2 · 9.81 · 0.1 / 200 m = 0.981 cm.
   EXPECT_EQ(s.PasosCalculados, 1);
   EXPECT_TRUE(s.CálculoInterrumpido);
