@@ -35,6 +35,26 @@ TEST(MóduloDegradado, IshibashiZhangRocaYPoisson) {
   for (int i = 0; i < 5; ++i) EXPECT_EQ(PoissonDelPaso(ex[i], ey[i], 0.3), nu[i]) << i;
 }
 
+TEST(MóduloDegradado, AjusteHiperbólico) {
+  // Gmax 10000, tau 10 (yr = 1e-3), s_m 10, Ip 0: the five ratios are 0.99 (1.0056 capped),
+  // 0.99986, 0.8379, 0.4469, 0.2449; the least-squares line of log10(1/r - 1) on log10(y r / yr)
+  // has slope 1.13695, so R = 2.13695, and at txy = 5, alfa = mean of (1/r - 1) / 0.5^1.13695
+  // at 1e-4 and 1e-3 = 1.57353 (worked apart from the five points in a separate script).
+  SueloDegradable s;
+  s.Gmax = 10000, s.tauMáx = 10, s.sm = 10, s.ip = 0;
+  AjustarHipérbola(s, 5);
+  EXPECT_NEAR(s.yr, 1e-3, 1e-15);
+  EXPECT_NEAR(s.R, 2.136946, 1e-6);
+  EXPECT_NEAR(s.alfa, 1.573533, 1e-6);
+  // Ip 30 (n = 7e-7 30^1.976), s_m 5, Gmax 5000, tau 8, txy 2: two ratios capped, R = 1.763447,
+  // alfa = 0.968261.
+  SueloDegradable t;
+  t.Gmax = 5000, t.tauMáx = 8, t.sm = 5, t.ip = 30;
+  AjustarHipérbola(t, 2);
+  EXPECT_NEAR(t.R, 1.763447, 1e-6);
+  EXPECT_NEAR(t.alfa, 0.968261, 1e-6);
+}
+
 TEST(MóduloDegradado, ComparaciónCorteYSetentaYCinco) {
   // txy = 5, tau = 10, yr = 1e-3, R = 2, alfa = 1: assigned, the strain would be
   // (1 + 0.5) 0.5 1e-3 = 7.5e-4; compared, y0 stays zero and the strain is 10^-6 at every step,
