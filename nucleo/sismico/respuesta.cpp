@@ -471,10 +471,12 @@ void Corrida::Correr() {
       }
     }
   } catch (const FalloAritmético&) {
+    ui_.Progreso(1, "");  // the progress box closes whatever ended the loop
     Terminar(false);
     ui_.Estado("");
     throw;
   }
+  ui_.Progreso(1, "");
   Terminar(completa);
   if (completa) ui_.Mensaje(textos_.final);
   ui_.Estado("");
