@@ -1,27 +1,11 @@
 #include "pantallas/grados_libertad.h"
 
-#include <memory>
-
 #include "pantallas/estratos_sismicos.h"
 #include "proyecto/interfaz.h"
 #include "proyecto/proyecto.h"
 #include "sismico/rigidez_sismica.h"
 
 namespace lomaterra {
-
-namespace {
-
-std::shared_ptr<MatricesSísmicas>& Últimas() {
-  static std::shared_ptr<MatricesSísmicas> m;
-  return m;
-}
-
-}  // namespace
-
-MatricesSísmicas& MatricesSísmicasEnMemoria() {
-  if (!Últimas()) Últimas() = std::make_shared<MatricesSísmicas>();
-  return *Últimas();
-}
 
 void GradosDeLibertad(Proyecto& p, Interfaz& ui) {
   MallaElementos& m = p.Malla;
@@ -80,7 +64,6 @@ void GradosDeLibertad(Proyecto& p, Interfaz& ui) {
     m.DesplazamientosHechos = false;
   }
   DeterminarGradosDeLibertad(p, ui, MatricesSísmicasEnMemoria(p));
-  Últimas() = p.Sísmico.MatricesEnMemoria;
 }
 
 }  // namespace lomaterra

@@ -6,12 +6,8 @@ namespace lomaterra {
 
 struct Proyecto;
 class Interfaz;
-struct MatricesSísmicas;
 
+// The element matrices it assembles stay in the project's memory (MatricesSísmicasEnMemoria).
 void GradosDeLibertad(Proyecto& p, Interfaz& ui);
-
-// The matrices that this command assembled last, those of the project that ran it (empty before
-// the first run). The response runs read the ones kept in their own project, never these.
-MatricesSísmicas& MatricesSísmicasEnMemoria();
 
 }  // namespace lomaterra

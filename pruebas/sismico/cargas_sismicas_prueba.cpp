@@ -100,7 +100,7 @@ TEST(PresaSísmica, HastaLosModosIdaYVueltaYFigura) {
   EXPECT_EQ(pruebas::LeerArchivo(a), pruebas::LeerArchivo(b));
   EXPECT_TRUE(q.Sísmico.AlturaPresa == 10.0 && q.Sísmico.MétodoGmax == 1);
   // After a response run the condensation lists the x and y degrees: node 2 first, node 60 last.
-  ASSERT_TRUE((s.ResultadosSísmicos = true) && CondensarMatrices(p, no, MatricesSísmicasEnMemoria()));
+  ASSERT_TRUE((s.ResultadosSísmicos = true) && CondensarMatrices(p, no, MatricesSísmicasEnMemoria(p)));
   EXPECT_TRUE(s.NúmeroGradosX == 50 && s.NúmeroGradosY == 50 && s.ListaGradosX[1] == 3 && s.ListaGradosY[50] == 120);
 }
 
