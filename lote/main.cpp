@@ -313,7 +313,7 @@ int Correr(const std::vector<std::string>& argumentos) {
   }
 
   const Resumen resumen = ResumirProyecto(p);
-  std::cout << ResumenComoTexto(resumen, qué);
+  std::cout << ResumenComoTexto(resumen, qué) << SísmicoComoTexto(p);
   std::cout.flush();
 
   for (const auto& [ruta, rigidez] : {std::pair{o.mallaJson, false}, std::pair{o.rigidezJson, true}})

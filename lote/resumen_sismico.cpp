@@ -3,6 +3,7 @@
 #include <charconv>
 #include <sstream>
 
+#include "proyecto/compat.h"
 #include "resumen.h"
 
 namespace lomaterra::lote {
@@ -53,6 +54,32 @@ std::string FueraDeLaMalla(const SelecciónHistorias& s, const Proyecto& p) {
   return "";
 }
 
+namespace {
+
+const char* NombreDelMétodo(char m) {
+  return m == 'D' ? "MétodoIntegralDuhamel"
+         : m == 'P' ? "MétodoPasoAPasoEcMovimientoSinDesacoplar"
+         : m == 'M' ? "PasoAPasoDesacoplado"
+                    : "";
+}
+
+}  // namespace
+
+std::string SísmicoComoTexto(const Proyecto& p) {
+  const DatosSísmicos& d = p.Sísmico;
+  if (!d.ResultadosSísmicos || p.TipoDeAnálisis != "F") return "";
+  std::ostringstream s;
+  const std::string método = NombreDelMétodo(d.MétodoRespuesta);
+  s << "RespuestaSísmica: " << (método.empty() ? "leída del proyecto" : método) << ", " << d.PasosCalculados
+    << " de " << d.NúmeroPuntosRegistro << " registros\n";
+  s << "DesplazamientoMáximo: " << Formato(d.DesplazamientoMáximo, "#0.000") << " cm (nodo " << d.NodoMáximo << ", registro "
+    << d.PasoMáximo << ")\n";
+  if (d.CorteAlcanzado) s << "Aviso: algún desplazamiento alcanzó el límite de corte\n";
+  if (d.ReglaDel75) s << "Aviso: se cumplió la regla del 75% (más del 75% de los nodos pasó de 50 cm)\n";
+  if (d.CálculoInterrumpido) s << "Aviso: el cálculo no llegó al último registro (Cancelar o una falla)\n";
+  return s.str();
+}
+
 std::string SísmicoComoJson(const Proyecto& p, const std::optional<SelecciónHistorias>& selección) {
   const DatosSísmicos& d = p.Sísmico;
   if (!d.ResultadosSísmicos || p.TipoDeAnálisis != "F") return "";
@@ -64,10 +91,7 @@ std::string SísmicoComoJson(const Proyecto& p, const std::optional<SelecciónHi
     for (long n = 1; n <= p.Malla.NúmeroDeNodos; ++n) nodos.push_back(n);
     for (long e = 1; e <= p.Malla.NúmeroDeElementos; ++e) elementos.push_back(e);
   }
-  const char* método = d.MétodoRespuesta == 'D' ? "MétodoIntegralDuhamel"
-                       : d.MétodoRespuesta == 'P' ? "MétodoPasoAPasoEcMovimientoSinDesacoplar"
-                       : d.MétodoRespuesta == 'M' ? "PasoAPasoDesacoplado"
-                                                   : "";
+  const char* método = NombreDelMétodo(d.MétodoRespuesta);
   std::ostringstream s;
   // A run read back from a project file does not say which method made it.
   s << "{\n    \"Método\": " << (*método ? TextoJson(método) : std::string("null")) << ", \"PasosCalculados\": " << pasos

@@ -21,6 +21,9 @@ std::string LeerSelecciónHistorias(const std::string& valor, SelecciónHistoria
 // A node or element of the selection that the project does not have; empty when all exist.
 std::string FueraDeLaMalla(const SelecciónHistorias& s, const Proyecto& p);
 
+// Lines for the text summary: method, steps computed, largest displacement and what marked the run;
+// empty when the project holds no seismic result.
+std::string SísmicoComoTexto(const Proyecto& p);
 // The object, or an empty text when the project holds no seismic result.
 std::string SísmicoComoJson(const Proyecto& p, const std::optional<SelecciónHistorias>& selección);
 

@@ -33,6 +33,11 @@ TEST(LoteModos, ConElModoElegidoCadaRespuestaRecorreElRegistro) {
     EXPECT_EQ(s->Campo("PasosCalculados")->número, 300);
     EXPECT_EQ(s->Campo("Tiempo")->lista.size(), 300u);
   }
+  const Corrida c = Lote({RutaEjemplo("presa_sismica.cod"), "IncrementeNúmeroDeElementos", "GradosDeLibertad",
+                          "DeterminaciónDeLasFrecuencias", "CálculoDeLoVectoresDeFormaModales",
+                          "DeterminaciónDeLasFrecuencias", "PasoAPasoDesacoplado", "--modo", "1", "--respuestas",
+                          "NSNNSS", "--por-defecto", "S"});
+  EXPECT_NE(c.salida.find("\nRespuestaSísmica: PasoAPasoDesacoplado, 300 de 300 registros\n"), std::string::npos);
 }
 
 }  // namespace lomaterra::pruebas
