@@ -1,49 +1,23 @@
 // The ACADS referee problem EX1(a) as a project, for the tests of the methods.
 #pragma once
 
-#include <utility>
-#include <vector>
-
-#include "apoyo/proyectos.h"
-#include "proyecto/proyecto.h"
+#include "apoyo/apoyo.h"
+#include "pantallas/interfaz_guionada.h"
+#include "proyecto/archivo.h"
 
 namespace lomaterra::pruebas {
 
-// The ACADS referee problem EX1(a): a homogeneous slope 10 m high at 2:1, c' = 3 kPa,
-// phi' = 19.6 deg, gamma = 20 kN/m3, no water. Ground from the crest: (70, 35), (50, 35),
-// (30, 25), (20, 25). Its critical circle has its centre near (29.7, 53.2) and radius 28.2 m; it
-// meets the crest at x = 29.7 + sqrt(28.2^2 - 18.2^2) = 51.24 and the toe level at x = 29.7.
-// Rigorous methods give 0.986 to 0.993 for it.
+// A homogeneous slope 10 m high at 2:1, c' = 3 kPa, phi' = 19.6 deg, gamma = 20 kN/m3 (in tons),
+// no water; ground from the crest (70, 35), (50, 35), (30, 25), (20, 25). Its critical circle has
+// its centre near (29.7, 53.2) and radius 28.2 m; it meets the crest at x = 29.7 +
+// sqrt(28.2^2 - 18.2^2) = 51.24 and the toe level at x = 29.7. Rigorous methods give 0.986 to
+// 0.993. Read from its sample file, with the number of slices and the method given.
 inline Proyecto EjemploACADS(double dovelas, Entero método) {
   Proyecto p;
-  p.TipoDeAnálisis = "T";
-  p.TipoDeMaterial = "S";
-  p.ParámetrosInicialesDados = true;
-  auto& pi = p.ParámetrosIniciales;
-  pi.MétodoDeCálculo = método;
-  pi.FSInicial = 1;
-  pi.NúmeroDovelas = dovelas;
-  pi.Radio = 28.2;
-  PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{70, 35}, {50, 35}, {30, 25}, {20, 25}});
-  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{51.24, 35}, {29.7, 25}});
-  UnTramo(p, "C");
-  p.GeometríaFallaDefinida = true;
-  // One stratum whose lower line runs well below the circle.
-  p.NúmeroEstratos = 1;
-  p.PuntosEstrato.Redimensionar(1);
-  p.PuntosEstrato[1] = 2;
-  p.XEstrato.Redimensionar(1, 2);
-  p.YEstrato.Redimensionar(1, 2);
-  p.XEstrato(1, 1) = 70;
-  p.YEstrato(1, 1) = 0;
-  p.XEstrato(1, 2) = 20;
-  p.YEstrato(1, 2) = 0;
-  p.Estrato.RedimensionarConservando(1);
-  p.Estrato.Cohesión[1] = 3 / 9.81;
-  p.Estrato.Fricción[1] = 19.6;
-  p.Estrato.PesoUnitarioHúmedo[1] = 20 / 9.81;
-  p.Estrato.PesoUnitarioSaturado[1] = 20 / 9.81;
-  p.EstratosCaracterizados = true;
+  InterfazGuionada ui;
+  LeerProyecto(p, RutaEjemplo("janbu_acads.cod"), ui);
+  p.ParámetrosIniciales.NúmeroDovelas = dovelas;
+  p.ParámetrosIniciales.MétodoDeCálculo = método;
   return p;
 }
 
