@@ -46,13 +46,27 @@ Proyecto Sección(double dovelas, const Puntos& talud, const Puntos& falla,
   return p;
 }
 
+// The stages that need the scripted port, each with a fresh one.
+void Cruces(Proyecto& p) {
+  InterfazGuionada ui;
+  InterseccionesFallaEstratos(p, ui);
+}
+void Dovelas(Proyecto& p) {
+  InterfazGuionada ui;
+  ListaDeQuiebres(p);
+  GeneraciónDeDovelas(p, ui);
+}
+void Poros(Proyecto& p) {
+  InterfazGuionada ui;
+  PresiónYPesoEnDovelas(p, ui);
+}
+
 // ---------------------------------------------------------------- circular surface
 
 TEST(CentroDelArco, UnArcoDe5Y5MetrosDaSeisCuerdasSobreElCírculo) {
   Proyecto p = Sección(4, {{20, 10}, {14.5, 0}}, {{20, 10}, {14.5, 0}}, {{1, 2, "C"}});
   p.ParámetrosIniciales.Radio = 12;
-  InterfazGuionada ui;
-  InterseccionesFallaEstratos(p, ui);
+  Cruces(p);
   // 5.5 / 5 = 1.1 is not below 1, 5.5 / 6 = 0.9167 is: six chords, seven points.
   ASSERT_EQ(p.Trabajo.NúmeroPuntosTrabajo, 7);
   const auto& pi = p.ParámetrosIniciales;
@@ -61,8 +75,8 @@ TEST(CentroDelArco, UnArcoDe5Y5MetrosDaSeisCuerdasSobreElCírculo) {
     EXPECT_NEAR(t.PuntosFalla.X[k], 20 - (k - 1) * 5.5 / 6, 1e-9);
     EXPECT_NEAR(std::hypot(t.PuntosFalla.X[k] - pi.CentroX, t.PuntosFalla.Y[k] - pi.CentroY), 12,
                 1e-9);
-    if (k < 7) EXPECT_EQ(t.TipoEnPunto[k], "C");
   }
+  for (long k = 1; k < 7; ++k) EXPECT_EQ(t.TipoEnPunto[k], "C");
   EXPECT_NEAR(pi.Cuerda, std::hypot(5.5, 10), 1e-12);
   EXPECT_EQ(t.NúmeroIntersecciones, 0);
   EXPECT_TRUE(p.EtapaIntersecciones);
@@ -106,9 +120,8 @@ class SuperficieRecta : public ::testing::Test {
   Proyecto p = Sección(4, {{30, 12}, {-10, 12}}, {{20, 10}, {0, 0}}, {{1, 2, "L"}});
   InterfazGuionada ui;
   void Etapas() {
-    InterseccionesFallaEstratos(p, ui);
-    ListaDeQuiebres(p);
-    GeneraciónDeDovelas(p, ui);
+    Cruces(p);
+    Dovelas(p);
     GeometríaDeDovelas(p);
     EstratosEnDovelas(p);
   }
@@ -249,14 +262,12 @@ TEST(VariosTramos, UnTramoPolinómicoCruzaUnEstratoPorLaSecante) {
   // x = (0.1 + √(0.01 + 0.6)) / 0.06 = 14.68375. Only the first chord crosses the line.
   Proyecto p = Sección(4, {{30, 12}, {-10, 12}}, {{20, 10}, {10, 2}, {0, 0}}, {{1, 3, "P"}});
   Niveles(p, {5, -20});
-  InterfazGuionada ui;
-  InterseccionesFallaEstratos(p, ui);
+  Cruces(p);
   ASSERT_EQ(p.Trabajo.NúmeroIntersecciones, 1);
   EXPECT_NEAR(p.Trabajo.XIntersección[1], (0.1 + std::sqrt(0.61)) / 0.06, 1e-3);
   // The search runs on the abscissa of the centre, which keeps the last value tried.
   EXPECT_EQ(p.ParámetrosIniciales.CentroX, p.Trabajo.XIntersección[1]);
-  ListaDeQuiebres(p);
-  GeneraciónDeDovelas(p, ui);
+  Dovelas(p);
   for (long i = 1; i < p.NúmeroBordes; ++i) {
     const double x = p.TablaDovelas.XMedio[i];
     EXPECT_NEAR(p.TablaDovelas.YBase[i], 0.03 * x * x - 0.1 * x, 1e-9);
@@ -269,10 +280,8 @@ TEST(VariosTramos, UnTramoPolinómicoQueNoEmpiezaEnElPuntoUnoUsaLosPrimerosPunto
   Proyecto p = Sección(6, {{40, 25}, {-10, 25}}, {{30, 20}, {20, 10}, {10, 2}, {0, 0}},
                        {{1, 2, "L"}, {2, 4, "P"}});
   Niveles(p, {-30});
-  InterfazGuionada ui;
-  InterseccionesFallaEstratos(p, ui);
-  ListaDeQuiebres(p);
-  GeneraciónDeDovelas(p, ui);
+  Cruces(p);
+  Dovelas(p);
   EsperarCerca(Bordes(p), {30, 25, 20, 15, 10, 5, 0});
   auto parábola = [](double x) { return 0.01 * x * x + 0.5 * x - 4; };
   const auto& d = p.TablaDovelas;
@@ -309,8 +318,7 @@ TEST(VariosTramos, UnArcoEntreDosRectasConSuCentroBajoLaCuerda) {
   EXPECT_NEAR(p.Trabajo.XIntersección[1], 20, 1e-9);
   // The ordinates of the stretch read the upper arc: chord slope 0.6 above 0, centre below the
   // stretch's first point. Below point 3 the level stretch.
-  ListaDeQuiebres(p);
-  GeneraciónDeDovelas(p, ui);
+  Dovelas(p);
   const auto& d = p.TablaDovelas;
   int dentro = 0;
   for (long i = 1; i < p.NúmeroBordes; ++i) {
@@ -332,8 +340,7 @@ TEST(VariosTramos, ElArcoÚnicoCruzaUnEstratoDondeElCírculoLoCorta) {
   Niveles(p, {5, -30});
   const double cuerda = std::hypot(5.5, 10), d = std::sqrt(144 - cuerda * cuerda / 4);
   const double cx = 17.25 - d * 10 / cuerda, cy = 5 + d * 5.5 / cuerda;
-  InterfazGuionada ui;
-  InterseccionesFallaEstratos(p, ui);
+  Cruces(p);
   EXPECT_NEAR(p.ParámetrosIniciales.CentroX, cx, 1e-9);
   EXPECT_NEAR(p.ParámetrosIniciales.CentroY, cy, 1e-9);
   ASSERT_EQ(p.Trabajo.NúmeroIntersecciones, 1);
@@ -394,7 +401,7 @@ TEST(Poros, RellenoSobreNatural) {
   EXPECT_TRUE(p.EtapaPoros);
   // Natural strata give no excess.
   Proyecto natural = relleno(0);
-  PresiónYPesoEnDovelas(natural, ui);
+  Poros(natural);
   EXPECT_NEAR(natural.TablaDovelas.PresiónPoros[1], 4, 1e-12);
   EXPECT_NEAR(natural.TablaDovelas.PresiónPorosMedia[1], 1, 1e-12);
   // Pressures of the user: No keeps the 3 and still adds the excess 3.6; Yes estimates 4 + 3.6.
@@ -425,8 +432,7 @@ TEST(Poros, ElGradoDeConsolidaciónPasaALaSegundaRamaSobre60) {
   for (const auto& [cv, u] : casos) {
     Proyecto p = Dovela(0, 10, 5, 5, 5);
     Estrato(p, -10, {.húmedo = 2.0, .saturado = 2.2, .tipo = 1, .b = 0.6, .cv = cv, .tiempo = 12});
-    InterfazGuionada ui;
-    PresiónYPesoEnDovelas(p, ui);
+    Poros(p);
     const double exceso = 20 * 0.6 - 20 * u / 100;
     EXPECT_NEAR(p.TablaDovelas.PresiónPoros[1], 5 + exceso, 1e-9) << cv;
     EXPECT_NEAR(p.TablaDovelas.PresiónPorosMedia[1], exceso / 2, 1e-9) << cv;
@@ -442,8 +448,7 @@ TEST(Poros, ElTiempoEfectivoDeUnEstratoInferiorSeMideDesdeSuTecho) {
   Proyecto p = Dovela(0, 10, 8, 8, 8);
   Estrato(p, 6, {.húmedo = 2.0, .saturado = 2.0, .tipo = 1, .b = 0.4});
   Estrato(p, -10, {.húmedo = 1.9, .saturado = 1.9, .tipo = 1, .b = 0.7, .cv = 0.01, .tiempo = 24});
-  InterfazGuionada ui;
-  PresiónYPesoEnDovelas(p, ui);
+  Poros(p);
   const double u = std::sqrt(4 * (31.536 * 0.375 / 64) / 3.1415) * 100;
   EXPECT_NEAR(p.TablaDovelas.PresiónPoros[1], 8 + 19.4 * 0.7 - 19.4 * u / 100, 1e-9);
 }
@@ -456,8 +461,7 @@ TEST(Poros, AguaSobreElTaludYNivelBajoLaBase) {
     Proyecto p = Dovela(0, 10, 12, 12, 12);
     Estrato(p, -10, {.húmedo = 2.0, .saturado = 2.2, .tipo = 1, .b = 0.5});
     p.DesembalseRápido = desembalse;
-    InterfazGuionada ui;
-    PresiónYPesoEnDovelas(p, ui);
+    Poros(p);
     const auto& d = p.TablaDovelas;
     EXPECT_EQ(d.AlturaAguaSobreTalud[1], desembalse ? 0 : 2);
     EXPECT_NEAR(d.PresiónPoros[1], 12 + 0.5 * (desembalse ? 20 : 22), 1e-12);
@@ -466,8 +470,7 @@ TEST(Poros, AguaSobreElTaludYNivelBajoLaBase) {
   // Phreatic line at 3, two metres under the base at 5: no pressure (not -2), no excess.
   Proyecto p = Dovela(5, 10, 3, 3, 3);
   Estrato(p, -10, {.húmedo = 1.7, .saturado = 2.0, .tipo = 1, .b = 0.5});
-  InterfazGuionada ui;
-  PresiónYPesoEnDovelas(p, ui);
+  Poros(p);
   EXPECT_EQ(p.TablaDovelas.PresiónPoros[1], 0);
   EXPECT_EQ(p.TablaDovelas.PresiónPorosMedia[1], 0);
   EXPECT_NEAR(p.TablaDovelas.PesoUnitarioMedio[1], 1.7, 1e-12);
@@ -481,8 +484,7 @@ double Presión(double dy, double yb, const DatosEstrato& inferior) {
   Estrato(p, dy, {.húmedo = 2.0, .saturado = 2.1, .tipo = 1, .b = 0.5, .cv = 0.01, .tiempo = 6},
           {{20, dy - 2}, {1, dy}, {-10, dy - 2}});
   Estrato(p, dy - 20, inferior);
-  InterfazGuionada ui;
-  PresiónYPesoEnDovelas(p, ui);
+  Poros(p);
   return p.TablaDovelas.PresiónPoros[1];
 }
 
