@@ -1,8 +1,7 @@
 // Leshchinsky-Huang in soil. The command ProcesoIterativoEnSuelos from the gates to the stored
-// results: its factor on the referee problem EX1(a) of ACADS, a stratified sample in equilibrium,
-// its ends and the correction screen. Its numerical pieces (finite-difference weights, the
-// inversion without pivoting, the first stress field, the Newton Jacobian, the reading of the
-// slices), each against an independent computation written here.
+// results: its factor on the referee problem EX1(a) of ACADS, its ends and the correction screen.
+// Its numerical pieces (finite-difference weights, the inversion without pivoting, the first
+// stress field, the reading of the slices), each against an independent computation written here.
 #include <gtest/gtest.h>
 
 #include <array>

@@ -1,6 +1,6 @@
 // Rock: the Hoek-Brown relations against published values and closed forms, the second pass in
-// instantaneous parameters, Leshchinsky-Huang (its analytic Jacobian against finite differences,
-// a rock slope from its strata to convergence) and Janbu in rock.
+// instantaneous parameters, Leshchinsky-Huang on a rock slope from its strata to convergence and
+// Janbu in rock.
 #include <gtest/gtest.h>
 
 #include <cfenv>
