@@ -1,12 +1,16 @@
 // The stress solutions on small meshes whose answers are known without the program: the
-// self-weight column under rollers, a mesh that never yields and one that always does.
+// self-weight column under rollers, a mesh that never yields and one that always does. Then the
+// factor of safety from stresses on two elements and two slices, and on the seismic stresses of
+// one step, checked by hand.
 #include <gtest/gtest.h>
 
 #include <cmath>
 
+#include "apoyo/sismo_apoyo.h"
 #include "elementos/elemento.h"
 #include "elementos/malla_apoyo.h"
 #include "elementos/plastico.h"
+#include "elementos/seguridad_esfuerzos.h"
 #include "elementos/viscoplastico.h"
 #include "pantallas/interfaz_guionada.h"
 #include "proyecto/proyecto.h"
@@ -28,28 +32,22 @@ void Columna(Proyecto& p, long columnas, long filas, double c, double fi) {
   p.Estrato.Fricción[1] = fi;
   p.Estrato.Viscosidad[1] = 1000;
   p.Malla.IntervaloDeTiempo = 0.01;
-  MallaElementos& m = p.Malla;
   // A listed direction takes its spring in place of the material term of the diagonal: the free
   // direction of a roller takes ten times that term (kg/cm, times 0.1 at use), so it keeps it.
   InterfazGuionada sinVoz;
   CálculoElementos k;
   k.reloj = [] { return 0.0; };
   Elementotriangular(p, sinVoz, k);
-  std::vector<long> filasR;
+  std::vector<Restricción> bordes;
   for (long i = 0; i <= columnas; ++i)
-    for (long j = 0; j <= filas; ++j)
-      if (i == 0 || i == columnas || j == 0) filasR.push_back(1 + i * (filas + 1) + j);
-  m.NúmeroNodosConRestricción = static_cast<std::int32_t>(filasR.size());
-  m.NodoConRestricción.Redimensionar(static_cast<long>(filasR.size()));
-  for (std::size_t q = 0; q < filasR.size(); ++q) {
-    const long r = static_cast<long>(q) + 1, n = filasR[q];
-    const long i = (n - 1) / (filas + 1), j = (n - 1) % (filas + 1);
-    m.NodoConRestricción.NodoRestringido[r] = static_cast<double>(n);
-    m.NodoConRestricción.RestricciónX[r] = m.NodoConRestricción.RestricciónY[r] = "S";
-    m.NodoConRestricción.ResorteX[r] = (i == 0 || i == columnas) ? 1e12 : 10 * k.MatrizRigidez->Diagonal(2 * n - 1);
-    m.NodoConRestricción.ResorteY[r] = j == 0 ? 1e12 : 10 * k.MatrizRigidez->Diagonal(2 * n);
-  }
-  m.NodosRestringidosDefinidos = true;
+    for (long j = 0; j <= filas; ++j) {
+      const long n = 1 + i * (filas + 1) + j;
+      const bool lado = i == 0 || i == columnas;
+      if (lado || j == 0)
+        bordes.push_back({n, "S", "S", lado ? 1e12 : 10 * k.MatrizRigidez->Diagonal(2 * n - 1),
+                          j == 0 ? 1e12 : 10 * k.MatrizRigidez->Diagonal(2 * n)});
+    }
+  Restringir(p.Malla, bordes);
 }
 
 bool Contiene(const std::vector<std::string>& textos, const std::string& trozo) {
@@ -272,15 +270,8 @@ TEST(Plástico, PasoDeCadaPuntoQueFluye) {
     EXPECT_NEAR(m.EsfuerzoXY(e, 2), esperado[3], 1e-9 * (1 + std::abs(esperado[3]))) << e;
   }
   EXPECT_GT(fluyen, 0);
-}
-
-TEST(Plástico, ColumnaQueFluyeSinNúmerosPerdidos) {
-  Proyecto p;
-  Columna(p, 2, 6, 0, 5);
-  InterfazGuionada ui;
-  CálculoEsfuerzosComportamientoPlástico(p, ui);
-  const MallaElementos& m = p.Malla;
-  ASSERT_GT(m.FluenciaMáxima, 0);
+  // No number lost: the yielding column changes its stresses, all finite.
+  EXPECT_GT(m.FluenciaMáxima, 0);
   bool cambia = false;
   for (long e = 1; e <= m.NúmeroDeElementos; ++e) {
     EXPECT_TRUE(std::isfinite(m.EsfuerzoY(e, 2)) && std::isfinite(m.EsfuerzoX(e, 2)));
@@ -288,4 +279,213 @@ TEST(Plástico, ColumnaQueFluyeSinNúmerosPerdidos) {
   }
   EXPECT_TRUE(cambia);
   for (long d = 1; d <= 2L * m.NúmeroDeNodos; ++d) EXPECT_TRUE(std::isfinite(m.Desplazamientos(d, 2)));
+}
+
+namespace {
+
+// Failure line from (10, 5) to (0, 0), two slices 5 m wide at x = 7.5 and 2.5; element 1 near the
+// first slice, element 2 near the second. Stresses of the last step (4) and of step 1.
+Proyecto DosDovelas() {
+  Proyecto p;
+  p.TipoDeAnálisis = "F";
+  p.TipoDeMaterial = "S";
+  p.CálculoHecho = p.ParámetrosInicialesDados = true;
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{10, 5}, {0, 0}});
+  pruebas::PonerTramos(p, {{1, 2, "L"}});
+  auto& pi = p.ParámetrosIniciales;
+  pi.NúmeroDovelas = 2, pi.FSInicial = 1.5, pi.MétodoDeCálculo = 4;
+  p.NúmeroEstratos = 1;
+  p.Estrato.RedimensionarConservando(1);
+  p.Estrato.Cohesión[1] = 1;
+  p.Estrato.Fricción[1] = 30;
+  MallaElementos& m = p.Malla;
+  m.NúmeroDeElementos = 2;
+  m.Elemento.Redimensionar(2);
+  m.Elemento.XCentroElemento[1] = 7.5, m.Elemento.YCentroElemento[1] = 3.5;
+  m.Elemento.XCentroElemento[2] = 2.5, m.Elemento.YCentroElemento[2] = 1.0;
+  m.Elemento.MaterialDeElemento[1] = m.Elemento.MaterialDeElemento[2] = 1;
+  m.NúmeroDeIteración = 4;
+  for (Tabla2<double>* t : {&m.EsfuerzoX, &m.EsfuerzoY, &m.EsfuerzoXY}) t->Redimensionar(2, 4);
+  // Last step: element 1 compressed with some shear, element 2 in vertical tension.
+  m.EsfuerzoX(1, 4) = -5, m.EsfuerzoY(1, 4) = -10, m.EsfuerzoXY(1, 4) = 1;
+  m.EsfuerzoX(2, 4) = -2, m.EsfuerzoY(2, 4) = 2, m.EsfuerzoXY(2, 4) = 0;
+  // Step 1: both compressed.
+  m.EsfuerzoX(1, 1) = -6, m.EsfuerzoY(1, 1) = -12, m.EsfuerzoXY(1, 1) = 0;
+  m.EsfuerzoX(2, 1) = -2, m.EsfuerzoY(2, 1) = -4, m.EsfuerzoXY(2, 1) = 0;
+  return p;
+}
+
+// Force form by hand. Both slices share alpha = atan(5 / 10.01) (the 0.01 of the reading rule), so
+// F = sum(A) / (cos² alpha (tan alpha t / F + 1) sum(Dv)), whose fixed point is
+// F = sum(A) / (cos² alpha sum(Dv)) - tan alpha t, with W = -sigma y b + tau b tan alpha,
+// A = c b + W t (W < 0: -0.2 tan(45° - phi/2) c b + W t), Dv = (W - b sigma x) tan alpha.
+double FuerzasALaMano(const double sx[2], const double sy[2], const double tau[2]) {
+  const double al = std::atan(5 / 10.01), b = 5, c = 1, fi = M_PI / 6, t = std::tan(fi);
+  double A = 0, Dv = 0;
+  for (int i = 0; i < 2; ++i) {
+    const double W = -sy[i] * b + tau[i] * b * std::tan(al);
+    A += (W >= 0 ? c * b : -0.2 * std::tan(M_PI / 4 - fi / 2) * c * b) + W * t;
+    Dv += (W - b * sx[i]) * std::tan(al);
+  }
+  return A / (std::cos(al) * std::cos(al) * Dv) - std::tan(al) * t;
+}
+
+// The moment form with sigma y = -10 and no sigma x or tau in both elements, c = 5.
+Proyecto Momentos(double fi, const pruebas::Puntos& talud) {
+  Proyecto p = DosDovelas();
+  p.ParámetrosIniciales.MétodoDeCálculo = 2;
+  p.Estrato.Fricción[1] = fi;
+  p.Estrato.Cohesión[1] = 5;
+  pruebas::PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, talud);
+  MallaElementos& m = p.Malla;
+  for (long e = 1; e <= 2; ++e)
+    for (long i : {1L, 4L}) m.EsfuerzoX(e, i) = m.EsfuerzoXY(e, i) = 0, m.EsfuerzoY(e, i) = -10;
+  InterfazGuionada ui;
+  FactorDeSeguridadDeslizamientoCálculoViscoplástico(p, ui);
+  return p;
+}
+
+}  // namespace
+
+TEST(FactorDesdeEsfuerzos, FormaDeFuerzasALaMano) {
+  Proyecto p = DosDovelas();
+  InterfazGuionada ui;
+  FactorDeSeguridadDeslizamientoCálculoViscoplástico(p, ui);
+  EXPECT_EQ(p.Malla.ElementoDeDovela[1], 1);
+  EXPECT_EQ(p.Malla.ElementoDeDovela[2], 2);
+  const double sx4[2] = {-5, -2}, sy4[2] = {-10, 2}, t4[2] = {1, 0};
+  const double sx1[2] = {-6, -2}, sy1[2] = {-12, -4}, t1[2] = {0, 0};
+  // The iteration stops within 0.02 of a step; the contraction of this map is small.
+  EXPECT_NEAR(p.Malla.FSViscoplástico, FuerzasALaMano(sx4, sy4, t4), 0.02);
+  EXPECT_NEAR(p.Malla.FSElástico, FuerzasALaMano(sx1, sy1, t1), 0.02);
+  ASSERT_EQ(ui.Textos().size(), 1u);
+  EXPECT_EQ(ui.Transcripción()[0].título, "Factor de seguridad:");
+}
+
+// Moment form about the point ((x last - x first)/2, (y last - y first)/2) of the slope line. With
+// no friction (t = 0) and sigma x = tau = 0: R = c b / cos a, N = (W - tan a b c / F) / cos a, and
+// with k = (dy sin a + dx cos a) the equation F = sum(R (sin a dx - cos a dy)) / sum(k N) has the
+// root F = (num + S2) / S1, S1 = sum(k W / cos a), S2 = sum(k tan a b c / cos a).
+TEST(FactorDesdeEsfuerzos, FormaDeMomentosSinFricción) {
+  const Proyecto p = Momentos(0, {{0, 0}, {20, 30}});
+  const double cx = 10, cy = 15, a = std::atan(5 / 10.01), b = 5, W = 50, c = 5;
+  double num = 0, S1 = 0, S2 = 0;
+  for (double x : {7.5, 2.5}) {
+    const double y = (x - 10) * 5 / 10.01 + 5;
+    const double k = (y - cy) * std::sin(a) + (x - cx) * std::cos(a);
+    num += c * b / std::cos(a) * (std::sin(a) * (x - cx) - std::cos(a) * (y - cy));
+    S1 += k * W / std::cos(a);
+    S2 += k * std::tan(a) * b * c / std::cos(a);
+  }
+  EXPECT_NEAR(p.Malla.FSViscoplástico, (num + S2) / S1, 0.02);
+  EXPECT_NEAR(p.Malla.FSElástico, (num + S2) / S1, 0.02);
+}
+
+// The same form with friction (30 degrees, c = 5) about (-5, 15): N = (W - tan a b c / F) / m_a with
+// m_a = cos a + sin a tan phi / F, R = c b / cos a + tan phi N. The root of F = sum(R (sin a dx -
+// cos a dy)) / sum(k N), found here by halving [2, 10], is 5.2652.
+TEST(FactorDesdeEsfuerzos, FormaDeMomentosConFricción) {
+  const Proyecto p = Momentos(30, {{10, 0}, {0, 30}});
+  const double a = std::atan(5 / 10.01), t = std::tan(M_PI / 6), b = 5, W = 50, c = 5;
+  auto resto = [&](double F) {
+    double num = 0, den = 0;
+    for (double x : {7.5, 2.5}) {
+      const double dx = x + 5, dy = (x - 10) * 5 / 10.01 + 5 - 15;
+      const double N = (W - std::tan(a) * b * c / F) / (std::cos(a) + std::sin(a) * t / F);
+      num += (c * b / std::cos(a) + t * N) * (std::sin(a) * dx - std::cos(a) * dy);
+      den += (dy * std::sin(a) + dx * std::cos(a)) * N;
+    }
+    return num / den - F;
+  };
+  double bajo = 2, alto = 10;
+  for (int k = 0; k < 60; ++k) (resto((bajo + alto) / 2) > 0 ? bajo : alto) = (bajo + alto) / 2;
+  EXPECT_NEAR(bajo, 5.2652, 1e-4);
+  EXPECT_NEAR(p.Malla.FSViscoplástico, bajo, 0.02);
+}
+
+TEST(FactorDesdeEsfuerzos, Puertas) {
+  Proyecto p = DosDovelas();
+  p.CálculoHecho = false;
+  InterfazGuionada ui;
+  FactorDeSeguridadDeslizamientoCálculoViscoplástico(p, ui);
+  ASSERT_EQ(ui.Transcripción().size(), 1u);
+  EXPECT_EQ(ui.Transcripción()[0].texto,
+            "No se ha hecho ningún cálculo de esfuerzos considerando un comportamiento viscoplástico del material.");
+  EXPECT_EQ(ui.Transcripción()[0].título, "No hay cálculos:");
+  Proyecto q = DosDovelas();
+  q.Malla.FSViscoplástico = 1.2;
+  InterfazGuionada no("N");
+  FactorDeSeguridadDeslizamientoCálculoViscoplástico(q, no);
+  EXPECT_EQ(no.Textos(), std::vector<std::string>{"El factor de seguridad ya se estimó considerando un comportamiento "
+                                                  "viscoplástico. ¿Desea volver a calcularlo?"});
+  EXPECT_EQ(q.Malla.FSViscoplástico, 1.2);
+}
+
+// The factor of safety on the seismic stresses of one step, worked by hand.
+// Failure line from (9.99, 5) to (0, 0): the reading rule's 0.01 makes its slope 5 / 10 = 0.5, so
+// every slice has tan a = 0.5 and cos² a = 1 / 1.25 = 0.8. Cohesion 6, no friction, tau = 0, the
+// same stresses in both elements. The force form then needs no iteration:
+//   W = -sigma y b,  A = c b,  Dv = (W - b sigma x) tan a,  mA = cos² a
+//   F = c / (0.8 (-sigma y - sigma x) 0.5)
+// step 1: sigma y = -10  -> F = 6 / 4 = 1.5
+// step 2: sigma y = -20  -> F = 6 / 8 = 0.75
+// step 3: sigma y = -10, sigma x = -4 -> F = 6 / 5.6 = 1.0714...
+namespace {
+
+Proyecto CasoSísmico() {
+  Proyecto p = pruebas::SismoAMano();
+  p.ParámetrosInicialesDados = true;
+  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{9.99, 5}, {0, 0}});
+  pruebas::PonerTramos(p, {{1, 2, "L"}});
+  p.ParámetrosIniciales.NúmeroDovelas = 4, p.ParámetrosIniciales.FSInicial = 1;
+  p.ParámetrosIniciales.MétodoDeCálculo = 4;
+  p.NúmeroEstratos = 1;
+  p.Estrato.RedimensionarConservando(1);
+  p.Estrato.Cohesión[1] = 6;
+  p.Sísmico.EsfuerzoX(3, 1) = p.Sísmico.EsfuerzoX(3, 2) = -4;
+  p.Sísmico.EsfuerzoXY(2, 2) = 0;
+  return p;
+}
+
+}  // namespace
+
+TEST(FactorSísmico, ElPasoElegidoOElÚltimo) {
+  struct {
+    DatosSísmicos::Entero elegido;
+    double F;
+    long paso;
+  } casos[] = {{1, 1.5, 1}, {2, 0.75, 2}, {0, 6 / 5.6, 3}, {7, 6 / 5.6, 3}, {-1, 0, 0}};
+  for (const auto& c : casos) {
+    Proyecto p = CasoSísmico();
+    p.Sísmico.RegistroSeleccionado = c.elegido;
+    p.Sísmico.ResultadosSísmicos = c.elegido >= 0;  // the last case: no seismic run
+    InterfazGuionada ui;
+    FactorDeSeguridadDeslizamientoAnálisisSísmico(p, ui);
+    ASSERT_EQ(ui.Transcripción().size(), 1u);
+    if (c.elegido < 0) {
+      EXPECT_EQ(ui.Textos()[0], "No se ha hecho ningún cálculo de esfuerzos considerando análisis sísmico");
+      EXPECT_EQ(ui.Transcripción()[0].título, "No hay cálculos:");
+    }
+    EXPECT_NEAR(p.Malla.FSSísmico, c.F, 1e-12) << c.elegido;
+    EXPECT_EQ(p.Sísmico.PasoFactorSísmico, c.paso);
+    EXPECT_EQ(ui.Textos()[0].find("registro " + std::to_string(c.paso)) != std::string::npos, c.paso > 0);
+  }
+}
+
+TEST(FactorSísmico, GuardaElMenorYSeRepiteConPermiso) {
+  Proyecto p = CasoSísmico();
+  InterfazGuionada ui("SN");
+  for (DatosSísmicos::Entero k : {1, 2, 3}) {
+    p.Sísmico.RegistroSeleccionado = k;
+    FactorDeSeguridadDeslizamientoAnálisisSísmico(p, ui);
+  }
+  EXPECT_NEAR(p.Malla.FSSísmico, 0.75, 1e-12);  // the third run was refused
+  EXPECT_NEAR(p.Sísmico.FactorSísmicoMínimo, 0.75, 1e-12);
+  EXPECT_EQ(p.Sísmico.PasoFactorSísmico, 2);
+  EXPECT_EQ(ui.Transcripción()[1].texto,
+            "El factor de seguridad ya se estimó de los resultados de análisis sísmico. ¿Desea volver a calcularlo?");
+  const auto v = FactoresSísmicosPorPaso(p);
+  ASSERT_EQ(v.size(), 3u);
+  EXPECT_NEAR(v[0].second, 1.5, 1e-12);
+  EXPECT_NEAR(v[2].second, 6 / 5.6, 1e-12);
 }

@@ -1,17 +1,23 @@
 // The response runs on two linear triangles over a 4 m square with its base held: nodes 2 and 4
 // free, degrees in the order 2x, 2y, 4x, 4y. Gates, questions and end of run word for word; the
 // crafted cases put a diagonal stiffness k and masses 2 in place of the assembled ones, so that
-// the first step of the step-by-step run is the static u = -2 · 9.81 · a / k.
+// the first step of the step-by-step run is the static u = -2 · 9.81 · a / k. Then the record
+// and strata screens that feed a run, the record side file and its figure.
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 
 #include "apoyo/apoyo.h"
 #include "elementos/malla_apoyo.h"
+#include "pantallas/estratos_sismicos.h"
 #include "pantallas/interfaz_guionada.h"
+#include "pantallas/registro_sismico.h"
 #include "proyecto/archivo.h"
+#include "salida/registro_sismico.h"
 #include "sismico/respuesta.h"
 #include "sismico/rigidez_sismica.h"
 
@@ -27,10 +33,8 @@ Proyecto Listo() {
   pruebas::ProyectoUnEstrato(p, 4, 4, 2000, 0.3, 1.8);
   pruebas::MallaRejilla(p, 1, 1, 4, 4);
   MallaElementos& m = p.Malla;
-  auto& r = m.NodoConRestricción;
-  r.Redimensionar(m.NúmeroNodosConRestricción = 2);
-  for (long i : {1, 2}) r.NodoRestringido[i] = 2 * i - 1, r.RestricciónX[i] = r.RestricciónY[i] = "N";
-  m.NodosRestringidosDefinidos = p.EstratosCaracterizados = true;
+  pruebas::Restringir(m, {{1, "N", "N"}, {3, "N", "N"}});
+  p.EstratosCaracterizados = true;
   p.Estrato.Cohesión[1] = 2, p.Estrato.Fricción[1] = 30;
   DatosSísmicos& s = p.Sísmico;
   s.ParámetrosSísmicosDados = s.RegistroDado = true;
@@ -65,7 +69,7 @@ OpcionesRespuesta Reloj() {  // 30 s for the first step
   return {{}, [t] { return *t += 30; }};
 }
 
-TEST(CorridaRespuesta, PuertasEnOrden) {
+TEST(CorridaRespuesta, PuertasEnOrdenYArchivoDeLaCorrida) {
   const std::vector<std::pair<std::function<void(Proyecto&)>, std::string>> puertas = {
       {[](Proyecto& p) { p.TipoDeAnálisis = "T"; }, "Ud. no está trabajando con elementos finitos"},
       {[](Proyecto& p) { p.EstratosCaracterizados = false; }, "Seleccione la opción Coordenadas y Luego Caracteríticas de los estratos"},
@@ -104,6 +108,26 @@ TEST(CorridaRespuesta, PuertasEnOrden) {
   InterfazGuionada otra("N");
   MétodoIntegralDuhamel(listo, otra);
   EXPECT_EQ(otra.Textos(), std::vector<std::string>{" Ya se realizó el cálculo sísmico. ¿Ud. desea volver a calcular?"});
+  // The file of the run keeps its results to 15 significant digits.
+  Proyecto& p = listo;
+  const std::string carpeta = pruebas::CarpetaTemporal(), uno = carpeta + "/uno.cod", dos = carpeta + "/dos.cod";
+  ASSERT_TRUE(GuardarProyecto(p, uno, ui));
+  Proyecto q = p;  // holds this run's element matrices until the read resets it
+  ASSERT_TRUE(LeerProyecto(q, uno, ui));
+  const DatosSísmicos &a = p.Sísmico, &b = q.Sísmico;
+  EXPECT_TRUE(b.ResultadosSísmicos && b.PasosCalculados == 3);
+  for (auto t : {&DatosSísmicos::DesplazamientoSísmico, &DatosSísmicos::VelocidadSísmica, &DatosSísmicos::AceleraciónSísmica,
+                 &DatosSísmicos::EsfuerzoX, &DatosSísmicos::EsfuerzoXY, &DatosSísmicos::EsfuerzoMenor, &DatosSísmicos::MóduloCortanteActual}) {
+    ASSERT_EQ((b.*t).Filas(), (a.*t).Filas());
+    ASSERT_EQ((b.*t).Columnas(), (a.*t).Columnas());
+    for (long i = 1; i <= (a.*t).Filas(); ++i)
+      for (long j = 1; j <= (a.*t).Columnas(); ++j) EXPECT_NEAR((b.*t)(i, j), (a.*t)(i, j), 1e-13 * (1 + std::abs((a.*t)(i, j))));
+  }
+  EXPECT_NEAR(b.DesplazamientoMáximo, a.DesplazamientoMáximo, 1e-12);
+  EXPECT_EQ(b.PasoMáximo, a.PasoMáximo);
+  EXPECT_EQ(q.Sísmico.MatricesEnMemoria, nullptr);  // an opened project holds no other's element matrices
+  ASSERT_TRUE(GuardarProyecto(q, dos, ui));
+  EXPECT_EQ(pruebas::LeerArchivo(dos), pruebas::LeerArchivo(uno));
 }
 
 TEST(CorridaRespuesta, CorteYReglaDel75ConSusPreguntas) {
@@ -154,38 +178,140 @@ TEST(CorridaRespuesta, CancelarDejaLosPasosHechosEnCentímetrosYSuMáximo) {
   EXPECT_EQ(ui.Textos().size(), 2u);  // the notice and the estimate, no end message
 }
 
-TEST(CorridaRespuesta, ArchivoDeUnaCorridaIdaYVuelta) {
-  Proyecto p = Listo();
+const char* kVertical = "Debe introducir el valor de la componente de la aceleración vertical del sísmo, incluyendo el cero";
+const char* kHorizontal = "Debe introducir el valor de la componente de la aceleración horizontal del sísmo, incluyendo el cero";
+const char* kTiempo = "Debe introducir el tiempo correspondientes a las componentes dadas de aceleración";
+
+struct Registro : ::testing::Test {
+  Proyecto p;
   InterfazGuionada ui;
-  MétodoIntegralDuhamel(p, ui);
-  const std::string carpeta = pruebas::CarpetaTemporal(), uno = carpeta + "/uno.cod", dos = carpeta + "/dos.cod";
-  ASSERT_TRUE(GuardarProyecto(p, uno, ui));
-  Proyecto q = p;  // holds this run's element matrices until the read resets it
-  ASSERT_TRUE(LeerProyecto(q, uno, ui));
-  const DatosSísmicos &a = p.Sísmico, &b = q.Sísmico;
-  EXPECT_TRUE(b.ResultadosSísmicos);
-  EXPECT_EQ(b.PasosCalculados, 3);
-  // The file keeps 15 significant digits.
-  for (auto t : {&DatosSísmicos::DesplazamientoSísmico, &DatosSísmicos::VelocidadSísmica, &DatosSísmicos::AceleraciónSísmica,
-                 &DatosSísmicos::EsfuerzoX, &DatosSísmicos::EsfuerzoXY, &DatosSísmicos::EsfuerzoMenor, &DatosSísmicos::MóduloCortanteActual}) {
-    ASSERT_EQ((b.*t).Filas(), (a.*t).Filas());
-    ASSERT_EQ((b.*t).Columnas(), (a.*t).Columnas());
-    for (long i = 1; i <= (a.*t).Filas(); ++i)
-      for (long j = 1; j <= (a.*t).Columnas(); ++j) EXPECT_NEAR((b.*t)(i, j), (a.*t)(i, j), 1e-13 * (1 + std::abs((a.*t)(i, j))));
+  FormRegistroSísmico f{p};
+  void SetUp() override { f.cerrada = false; f.Activar(ui); }
+  void Fila(const char* t, const char* h, const char* v) {
+    f.texto("Texto_Tiempo") = t;
+    f.texto("Texto_Componente_Horizontal") = h;
+    f.texto("Texto_Componente_Vertical") = v;
+    f.Pulsar("BotónAgregar", ui);
   }
-  EXPECT_NEAR(b.DesplazamientoMáximo, a.DesplazamientoMáximo, 1e-12);
-  EXPECT_EQ(b.PasoMáximo, a.PasoMáximo);
-  EXPECT_EQ(q.Sísmico.MatricesEnMemoria, nullptr);  // an opened project holds no other's element matrices
-  ASSERT_TRUE(GuardarProyecto(q, dos, ui));
-  EXPECT_EQ(pruebas::LeerArchivo(dos), pruebas::LeerArchivo(uno));
+  std::string Último() { return ui.Textos().empty() ? "" : ui.Textos().back(); }
+};
+
+TEST_F(Registro, AgregarCompruebaVerticalHorizontalYTiempoEnEseOrden) {
+  const struct { const char *t, *h, *v, *mensaje; } casos[] = {
+      {"x", "x", "x", kVertical}, {"x", "x", "0", kHorizontal}, {"x", "0.1", "0", kTiempo}};
+  for (const auto& c : casos) {
+    Fila(c.t, c.h, c.v);
+    EXPECT_EQ(Último(), c.mensaje);
+  }
+  EXPECT_TRUE(f.lista("ListaDeRegistroSísmico").filas.empty());
+  Fila("0", "0.1", "-0.05");
+  Fila("0.02", "0.25", "0");
+  ASSERT_EQ(f.lista("ListaDeRegistroSísmico").filas.size(), 2u);
+  EXPECT_EQ(f.lista("ListaDeRegistroSísmico").filas[0],
+            (std::vector<std::string>{"0.000", "0.100", "-0.050"}));
+  f.Pulsar("BotónModificar", ui);
+  EXPECT_EQ(Último(), "Ud no ha seleccionado ninguna fila para modificar valores ya agregados.");
 }
 
-TEST(CorridaRespuesta, DesacopladoSeCorrePorSuNombreEnLote) {
-  const std::string salida = pruebas::CarpetaTemporal() + "/lote.txt";
-  const std::string orden = std::string("\"") + LOMATERRA_LOTE + "\" \"" + pruebas::RutaEjemplo("talud_homogeneo.cod") +
-                            "\" PasoAPasoDesacoplado > \"" + salida + "\"";
-  EXPECT_EQ(std::system(orden.c_str()), 0);
-  EXPECT_NE(pruebas::LeerArchivo(salida).find("Ud. no está trabajando con elementos finitos"), std::string::npos);
+TEST_F(Registro, UnRegistroMaloNoSeGuardaYUnoBuenoSí) {
+  Fila("0", "0.1", "0");
+  f.Pulsar("BotónAceptar", ui);  // one point only
+  EXPECT_NE(Último().find("al menos dos puntos"), std::string::npos);
+  Fila("0", "0.2", "0");  // a time that does not grow is refused at once
+  EXPECT_NE(Último().find("no es mayor que el de la última fila"), std::string::npos);
+  Fila("0.01", "0.2", "0");
+  Fila("0.02", "-0.3", "0.1");
+  f.lista("ListaDeRegistroSísmico").seleccionada = 2;  // spoil the order through Modificar
+  f.lista("ListaDeRegistroSísmico").alSeleccionar(ui);
+  f.texto("Texto_Tiempo") = "-1";
+  f.Pulsar("BotónModificar", ui);
+  f.Pulsar("BotónAceptar", ui);
+  EXPECT_NE(Último().find("deben crecer"), std::string::npos);
+  EXPECT_FALSE(f.cerrada);
+  EXPECT_EQ(p.Sísmico.NúmeroPuntosRegistro, 0);
+  EXPECT_FALSE(p.Sísmico.RegistroDado);
+  f.Pulsar("BotónBorrar", ui);  // the spoilt row goes
+  f.Pulsar("BotónAceptar", ui);
+  EXPECT_TRUE(f.cerrada);
+  ASSERT_EQ(p.Sísmico.NúmeroPuntosRegistro, 2);
+  EXPECT_TRUE(p.Sísmico.RegistroDado);
+  const Figura g = FiguraRegistroSísmico(p);
+  ASSERT_EQ(g.trazos.size(), 2u);
+  EXPECT_EQ(g.trazos[0].puntos.size(), 2u);
+  EXPECT_DOUBLE_EQ(g.trazos[0].puntos[1].y, -0.3);
+}
+
+TEST(ArchivoRegistro, SoloUnArchivoCompletoYOrdenadoCambiaElRegistro) {
+  const auto base = std::filesystem::temp_directory_path() / "lomaterra_registro_prueba";
+  std::filesystem::create_directories(base / "CarpetaRegistroSismico");
+  setenv("LOMATERRA_CARPETA_BASE", base.c_str(), 1);
+  const struct { const char *contenido, *error; int puntos; } casos[] = {
+      {"3\r\n0,0.1,0\r\n0.02,-0.2,0.05\r\n0.04,0,0\r\n", "", 3},
+      {"1\r\n0,0.1,0\r\n", "al menos dos puntos", 0},
+      {"2\r\n0,0.1,0\r\n0,0.2,0\r\n", "deben crecer", 0},
+      {"2\r\n0,0.1,0\r\n0.02,abc,0\r\n", "en el punto 2", 0},
+      {"3\r\n0,0.1,0\r\n0.02,0.1,0\r\n", "en el punto 3", 0}};
+  for (const auto& c : casos) {
+    std::ofstream(base / "CarpetaRegistroSismico" / "registrosismico.cod") << c.contenido;
+    Proyecto p;
+    InterfazGuionada ui("S");
+    InputDeRegistrosSísmico(p, ui);
+    EXPECT_EQ(p.Sísmico.NúmeroPuntosRegistro, c.puntos) << c.contenido;
+    const bool conError = std::string(c.error).size() > 0;
+    bool hallado = false;
+    for (const auto& t : ui.Textos()) hallado |= conError && t.find(c.error) != std::string::npos;
+    EXPECT_EQ(hallado, conError) << c.contenido;
+  }
+  unsetenv("LOMATERRA_CARPETA_BASE");
+}
+
+TEST(EstratosSísmicos, ModificarYAceptarCompruebanEnSuOrden) {
+  Proyecto p;
+  p.NúmeroEstratos = 1;
+  p.Estrato.Fricción.Redimensionar(1);
+  p.Estrato.Fricción[1] = 30;
+  InterfazGuionada ui;
+  FormEstratosSísmicos f(p);
+  f.Activar(ui);
+  f.lista("CaracterísticasEstratos").seleccionada = 1;
+  const char* cajas[] = {"TextoVelocidadOndaDeCorte", "TextoDistorsiónCortante", "TextoRelaciónDeVacíos",
+                         "TextoResistenciaNoDrenada", "TextoIndicePlástico",
+                         "TextoRelaciónDeSobreconsolidación", "TextoEstratoDeterminateEnLaEstabilidad"};
+  const struct { std::vector<const char*> v; const char* mensaje; } casos[] = {
+      {{"x", "x", "x", "x", "x", "x", "x"}, "Debe dar el valor de la velocidad de la onda de corte. Puede incluir el cero"},
+      {{"200", "x", "x", "x", "x", "x", "x"}, "Debe dar un valor para la distorsión cortante"},
+      {{"200", "0", "x", "x", "x", "x", "x"}, "El valor de la distorsión cortante debe ser mayor a cero."},
+      {{"200", "1e-6", "x", "x", "x", "x", "x"}, "Debe dar un valor para la relación de vaciós. Puede incluir el cero"},
+      {{"200", "1e-6", "0.6", "x", "x", "x", "x"}, "Debe dar un valor para la resistencia no drenada. Puede incluir el cero"},
+      {{"200", "1e-6", "0.6", "5", "x", "x", "x"}, "Debe dar un valor para el indice plástico. Puede incluir el cero"},
+      {{"200", "1e-6", "0.6", "5", "10", "x", "x"}, "Debe dar un valor para la relación de sobreconsolidación. Puede incluir el cero"},
+      {{"200", "1e-6", "0.6", "5", "10", "0.5", "x"}, "Ud. Está diciendo que el suelo es plástico, entonces: OCR =1 para arcillas normalmente consolidadas y OCR > 1 para arcillas sobreconsolidadas."},
+      {{"200", "1e-6", "0.6", "5", "0", "2", "x"}, "Ud. está diciendo que el suelo no es plástico y por consiguiente el OCR debe ser cero, al menos que ud. modifique los datos"},
+      {{"200", "1e-6", "0.6", "5", "0", "0", "x"}, "Para el tipo de estrato debe introducir  'SI ó NO para indicar el material es o no es determinante en la estabilidad' "}};
+  for (const auto& c : casos) {
+    for (int i = 0; i < 7; ++i) f.texto(cajas[i]) = c.v[static_cast<std::size_t>(i)];
+    f.Pulsar("Modificar", ui);
+    EXPECT_EQ(ui.Textos().back(), c.mensaje);
+  }
+  f.texto(cajas[6]) = "no";
+  f.Pulsar("Modificar", ui);
+  f.Pulsar("BotónAceptar", ui);  // friction 30 and Cu 5: drainage unclear
+  EXPECT_EQ(ui.Textos().back().rfind("Hay un estrato donde no se tiene claro, en que condicón de drenaje", 0), 0u);
+  p.Estrato.Fricción[1] = 0;
+  f.Pulsar("BotónAceptar", ui);
+  EXPECT_EQ(ui.Textos().back(), "Debe dar un número para el espesor de sedimentos del sitio de análisis estimado por el geologo.");
+  f.texto("TextoEspesorDeSedimentos") = "25";
+  f.texto("TextoMétodoGmax") = "4";
+  f.Pulsar("BotónAceptar", ui);
+  EXPECT_EQ(ui.Textos().back(), "Debe introducir el número <1> o <2> o <3>");
+  EXPECT_FALSE(p.Sísmico.ParámetrosSísmicosDados);
+  f.texto("TextoMétodoGmax") = "2";
+  f.Pulsar("BotónAceptar", ui);
+  EXPECT_TRUE(p.Sísmico.ParámetrosSísmicosDados && p.Sísmico.HayNoDeterminantes);
+  EXPECT_EQ(p.Sísmico.MétodoGmax, 2);
+  EXPECT_DOUBLE_EQ(p.Sísmico.AlturaPresa, 25);
+  EXPECT_EQ(f.lista("CaracterísticasEstratos").filas[0],
+            (std::vector<std::string>{"1", "200.00", "0.000001", "0.60", "5.00", "0.00", "NO"}));
 }
 
 }  // namespace

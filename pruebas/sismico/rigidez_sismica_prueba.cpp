@@ -1,7 +1,11 @@
-// The seismic loads of one triangle worked by hand, the gates of the degrees of freedom in their
-// order, and the sample dam run to its modes, through its file and into its figure.
+// Seismic assembly and condensation on meshes small enough to work by hand, the loads of one
+// triangle, the gates of the degrees of freedom in their order, and the sample dam run to its
+// modes, through its file and into its figure.
 #include <gtest/gtest.h>
+
+#include <array>
 #include <cmath>
+
 #include "apoyo/apoyo.h"
 #include "elementos/malla_apoyo.h"
 #include "pantallas/grados_libertad.h"
@@ -14,6 +18,83 @@
 namespace lomaterra {
 namespace {
 
+// Plane-strain constant-strain triangle by the closed form t A Bᵀ D B, b_i = y_j - y_k, c_i = x_k - x_j.
+void SumarTriánguloCerrado(const std::vector<std::array<double, 2>>& xy, std::array<long, 3> n, double E, double nu,
+                           std::vector<double>& K, long nd) {
+  double x[3], y[3];
+  for (std::size_t i = 0; i < 3; ++i) x[i] = xy[static_cast<std::size_t>(n[i] - 1)][0], y[i] = xy[static_cast<std::size_t>(n[i] - 1)][1];
+  const double A = ((x[1] - x[0]) * (y[2] - y[0]) - (x[2] - x[0]) * (y[1] - y[0])) / 2;
+  double B[3][6] = {};
+  for (int i = 0; i < 3; ++i) {
+    const int j = (i + 1) % 3, k = (i + 2) % 3;
+    B[0][2 * i] = B[2][2 * i + 1] = (y[j] - y[k]) / (2 * A);
+    B[1][2 * i + 1] = B[2][2 * i] = (x[k] - x[j]) / (2 * A);
+  }
+  const double f = E / ((1 + nu) * (1 - 2 * nu));
+  const double D[3][3] = {{f * (1 - nu), f * nu, 0}, {f * nu, f * (1 - nu), 0}, {0, 0, E / (2 * (1 + nu))}};
+  auto grado = [&](int a) { return 2 * n[static_cast<std::size_t>(a / 2)] - 1 + a % 2; };
+  for (int a = 0; a < 6; ++a)
+    for (int b = 0; b < 6; ++b)
+      for (int r = 0; r < 3; ++r)
+        for (int q = 0; q < 3; ++q) K[static_cast<std::size_t>((grado(a) - 1) * nd + grado(b) - 1)] += B[r][a] * D[r][q] * B[q][b] * A;
+}
+
+TEST(CondensaciónSísmica, DosElementosMasaYRigidezCondensadaAMano) {
+  const double E = 2000, nu = 0.3, gamma = 1.8;
+  const std::vector<std::array<double, 2>> xy = {{0, 0}, {4, 0.3}, {4.2, 3}, {0.1, 2.8}};
+  Proyecto p;
+  pruebas::ProyectoUnEstrato(p, 10, 5, E, nu, gamma);
+  pruebas::Malla(p, xy, {{{1, 2, 3, 1}}, {{1, 3, 4, 1}}});
+  pruebas::Restringir(p.Malla, {{2, "S", "N", 200}, {1, "N", "N", 0}});
+  InterfazGuionada ui("NNNN");
+  MatricesSísmicas s;
+  ASSERT_TRUE(DeterminarGradosDeLibertad(p, ui, s));
+  // Lumped mass A/3 · gamma / 10 on each corner: the weight of the mesh over 10 along x.
+  const double A1 = ((4 - 0) * (3 - 0) - (4.2 - 0) * (0.3 - 0)) / 2, A2 = ((4.2) * (2.8) - (0.1) * (3)) / 2;
+  double sumaX = 0;
+  for (long n = 1; n <= 4; ++n) sumaX += s.M(2 * n - 1, 2 * n - 1);
+  EXPECT_NEAR(sumaX, (A1 + A2) * gamma / 10, 1e-12);
+  EXPECT_NEAR(s.M(1, 1), (A1 + A2) / 3 * gamma / 10, 1e-12);  // node 1 is in both elements
+  std::vector<double> K(64, 0.0);
+  SumarTriánguloCerrado(xy, {1, 2, 3}, E, nu, K, 8);
+  SumarTriánguloCerrado(xy, {1, 3, 4}, E, nu, K, 8);
+  K[(3 - 1) * 8 + 3 - 1] = 200 * 0.1;  // the spring replaces the diagonal
+  const std::vector<long> libres = {3, 5, 6, 7, 8};  // node 2 keeps x on its spring
+  ASSERT_EQ(p.Sísmico.NúmeroGradosLibertad, 5);
+  EXPECT_TRUE(s.Libres == libres && p.Sísmico.GradosDeLibertadEstimados);
+  for (long i = 1; i <= 5; ++i)
+    for (long j = 1; j <= 5; ++j) {
+      const long gi = libres[static_cast<std::size_t>(i - 1)], gj = libres[static_cast<std::size_t>(j - 1)];
+      EXPECT_NEAR(p.Sísmico.MatrizRigidezCondensada(i, j), K[static_cast<std::size_t>((gi - 1) * 8 + gj - 1)], 1e-9);
+      EXPECT_EQ(p.Sísmico.MatrizMasaCondensada(i, j), s.M(gi, gj));
+    }
+  // A spring of zero leaves a zero on the condensed diagonal: the message and no degrees.
+  pruebas::Restringir(p.Malla, {{2, "S", "N", 0}, {1, "N", "N", 0}});
+  EXPECT_FALSE(DeterminarGradosDeLibertad(p, ui, s));
+  EXPECT_FALSE(p.Sísmico.GradosDeLibertadEstimados);
+}
+
+// Node numbers scattered over two cells, restrictions in any order: the free degrees run by node
+// number, x before y, each with the stratum of the first element that holds its node.
+TEST(CondensaciónSísmica, NumeraciónConNodosEnCualquierOrden) {
+  const std::vector<std::array<double, 2>> xy = {{2.003, 1.004}, {0.001, 0.002}, {4.005, 0.001},
+                                                 {0.002, 1.006}, {2.004, 0.003}, {4.001, 1.002}};
+  Proyecto p;
+  pruebas::ProyectoUnEstrato(p, 10, 5, 1000, 0.3, 2);
+  p.Estrato.RedimensionarConservando(2), p.Malla.MóduloElasticidad.RedimensionarConservando(2);
+  p.Estrato.PesoUnitarioHúmedo[2] = 2, p.Malla.MóduloElasticidad[2] = 3000;
+  // Left cell material 1 (nodes 2, 5, 1, 4), right cell material 2 (nodes 5, 3, 6, 1).
+  pruebas::Malla(p, xy, {{{2, 5, 1, 1}}, {{2, 1, 4, 1}}, {{5, 3, 6, 2}}, {{5, 6, 1, 2}}});
+  pruebas::Restringir(p.Malla, {{5, "N", "N", 0}, {3, "S", "N", 50}, {2, "N", "N", 0}});
+  InterfazGuionada ui("NNNN");
+  MatricesSísmicas s;
+  ASSERT_TRUE(DeterminarGradosDeLibertad(p, ui, s));
+  const std::vector<long> libres = {1, 2, 5, 7, 8, 11, 12};
+  EXPECT_EQ(s.Libres, libres);
+  const double módulo[] = {1000, 1000, 3000, 1000, 1000, 3000, 3000};
+  for (long i = 1; i <= 7; ++i) EXPECT_EQ(p.Sísmico.MóduloGrado.Leer(i), módulo[i - 1]) << i;
+}
+
 TEST(CargasSísmicas, UnTriánguloEnLaCaraDeAguasArriba) {
   // Face (10, 0)-(0, 10) read as y = (10 - x)·f, f = 10/10.01 by the 0.01 of the reading rule;
   // reservoir at 12; moist 1.8, saturated 2.0, Ko 0.5. Triangle B(6, 3.99), A(2, 7.99), C(5, 3).
@@ -23,17 +104,8 @@ TEST(CargasSísmicas, UnTriánguloEnLaCaraDeAguasArriba) {
   p.NúmeroPuntosFreático = 2, p.CoordenadasFreático.Redimensionar(2);
   p.CoordenadasFreático.X[1] = 10, p.CoordenadasFreático.Y[1] = p.CoordenadasFreático.Y[2] = 12;
   p.Estrato.PesoUnitarioSaturado[1] = 2.0, p.Estrato.CoeficienteKo[1] = 0.5;
-  MallaElementos& m = p.Malla;
-  m.Nodo.Redimensionar(3), m.Elemento.Redimensionar(1), m.AnálisisPresas = true, m.NúmeroDeNodos = 3, m.NúmeroDeElementos = 1;
-  const double xy[4][2] = {{}, {6, 3.99}, {2, 7.99}, {5, 3}};  // nodes 1 (B), 2 (A), 3 (C)
-  for (long n = 1; n <= 3; ++n) {
-    m.Nodo.NúmeroDeNodo[4 - n] = static_cast<Entero>(n), m.Nodo.XNodo[4 - n] = xy[n][0], m.Nodo.YNodo[4 - n] = xy[n][1];
-    m.Elemento.NodoDeElemento(1, n) = m.Elemento.NúmeroElemento(1, n) = static_cast<double>(n);
-    m.Elemento.XElemento(1, n) = xy[n][0], m.Elemento.YElemento(1, n) = xy[n][1];
-  }
-  m.Elemento.NodosPorElemento[1] = 3, m.Elemento.PuntosIntegración[1] = 1, m.Elemento.MaterialDeElemento[1] = 1;
-  m.Elemento.Lado12[1] = m.Elemento.Lado23[1] = m.Elemento.Lado31[1] = 2;
-  m.Elemento.XCentroElemento[1] = 13.0 / 3, m.Elemento.YCentroElemento[1] = 14.98 / 3;
+  pruebas::Malla(p, {{6, 3.99}, {2, 7.99}, {5, 3}}, {{{1, 2, 3, 1}}});  // nodes 1 (B), 2 (A), 3 (C)
+  p.Malla.AnálisisPresas = true;
   InterfazGuionada ui("S", true);  // the pore pressure from the phreatic line
   MatricesSísmicas s;
   ASSERT_TRUE(ElementoTriangularSismico(p, ui, s));
