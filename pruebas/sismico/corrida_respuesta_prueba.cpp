@@ -102,19 +102,17 @@ TEST(CorridaRespuesta, PuertasEnOrdenYArchivoDeLaCorrida) {
   EXPECT_EQ(ui.Textos(), (std::vector<std::string>{kAviso,
       "El número indicado al final de este mensaje, corresponde al tiempo en minutos que tardará el programa en estimar los valores de desplazamientos y esfuerzos para el registro sísmico en análisis: 1.00",
       "Se finalizó el cálculo de esfuerzos y desplazamientos a partir de la Integral de Duhamel."}));
-  EXPECT_EQ(listo.Sísmico.Determinante[1], 1);
-  EXPECT_EQ(listo.Sísmico.PasosCalculados, 3);
-  EXPECT_EQ(listo.Sísmico.TiempoRegistro[1], 0.0001);
+  const DatosSísmicos& a = listo.Sísmico;
+  EXPECT_TRUE(a.Determinante[1] == 1 && a.PasosCalculados == 3 && a.TiempoRegistro[1] == 0.0001);
   InterfazGuionada otra("N");
   MétodoIntegralDuhamel(listo, otra);
   EXPECT_EQ(otra.Textos(), std::vector<std::string>{" Ya se realizó el cálculo sísmico. ¿Ud. desea volver a calcular?"});
   // The file of the run keeps its results to 15 significant digits.
-  Proyecto& p = listo;
   const std::string carpeta = pruebas::CarpetaTemporal(), uno = carpeta + "/uno.cod", dos = carpeta + "/dos.cod";
-  ASSERT_TRUE(GuardarProyecto(p, uno, ui));
-  Proyecto q = p;  // holds this run's element matrices until the read resets it
+  ASSERT_TRUE(GuardarProyecto(listo, uno, ui));
+  Proyecto q = listo;  // holds this run's element matrices until the read resets it
   ASSERT_TRUE(LeerProyecto(q, uno, ui));
-  const DatosSísmicos &a = p.Sísmico, &b = q.Sísmico;
+  const DatosSísmicos& b = q.Sísmico;
   EXPECT_TRUE(b.ResultadosSísmicos && b.PasosCalculados == 3);
   for (auto t : {&DatosSísmicos::DesplazamientoSísmico, &DatosSísmicos::VelocidadSísmica, &DatosSísmicos::AceleraciónSísmica,
                  &DatosSísmicos::EsfuerzoX, &DatosSísmicos::EsfuerzoXY, &DatosSísmicos::EsfuerzoMenor, &DatosSísmicos::MóduloCortanteActual}) {
@@ -125,7 +123,7 @@ TEST(CorridaRespuesta, PuertasEnOrdenYArchivoDeLaCorrida) {
   }
   EXPECT_NEAR(b.DesplazamientoMáximo, a.DesplazamientoMáximo, 1e-12);
   EXPECT_EQ(b.PasoMáximo, a.PasoMáximo);
-  EXPECT_EQ(q.Sísmico.MatricesEnMemoria, nullptr);  // an opened project holds no other's element matrices
+  EXPECT_EQ(b.MatricesEnMemoria, nullptr);  // an opened project holds no other's element matrices
   ASSERT_TRUE(GuardarProyecto(q, dos, ui));
   EXPECT_EQ(pruebas::LeerArchivo(dos), pruebas::LeerArchivo(uno));
 }
@@ -136,10 +134,12 @@ TEST(CorridaRespuesta, CorteYReglaDel75ConSusPreguntas) {
   const char* const kFin = "Se finalizó el cálculo de esfuerzos y desplazamientos a partir de la ecuación de movimiemto método paso a paso.";
   // k = 1e-6: u = -3.924e6 m, cut to -10000 (-1e6 cm). k = 1: u = -3.924 and 0.981 m, all four
   // degrees beyond 0.5 m, more than Int(0.75 · 4) = 3.
-  const struct { double k, u; const char* respuestas; std::vector<std::string> tras; long pasos; bool corte; } casos[] = {
-      {1e-6, -1e6, "S", {kCorte, kFin}, 1, true},
-      {1e-6, -1e6, "NN", {kCorte, "El programa le asignará a estos desplazamientos valores de -10000 ó +10000", k75, "Vaya a la opción de Resultados tabulados o gráficas.", kFin}, 1, true},
-      {1, -392.4, "N", {k75, "Vaya a la opción de Resultados tabulados o gráficas.", kFin}, 1, false},
+  const char* const kIr = "Vaya a la opción de Resultados tabulados o gráficas.";
+  const char* const kAsigna = "El programa le asignará a estos desplazamientos valores de -10000 ó +10000";
+  const struct { double k, u; const char* respuestas; std::vector<std::string> tras; bool corte; } casos[] = {
+      {1e-6, -1e6, "S", {kCorte, kFin}, true},
+      {1e-6, -1e6, "NN", {kCorte, kAsigna, k75, kIr, kFin}, true},
+      {1, -392.4, "N", {k75, kIr, kFin}, false},
   };
   for (const auto& c : casos) {
     Proyecto p = Listo();
@@ -150,10 +150,8 @@ TEST(CorridaRespuesta, CorteYReglaDel75ConSusPreguntas) {
     t.erase(t.begin());  // the notice
     EXPECT_EQ(t, c.tras) << c.respuestas;
     const DatosSísmicos& s = p.Sísmico;
-    EXPECT_EQ(s.PasosCalculados, c.pasos);
-    EXPECT_EQ(s.CorteAlcanzado, c.corte);
+    EXPECT_TRUE(s.PasosCalculados == 1 && s.ResultadosSísmicos && s.CorteAlcanzado == c.corte);
     EXPECT_DOUBLE_EQ(s.DesplazamientoSísmico(1, 3), c.u);
-    EXPECT_TRUE(s.ResultadosSísmicos);
   }
 }
 
@@ -167,14 +165,10 @@ TEST(CorridaRespuesta, CancelarDejaLosPasosHechosEnCentímetrosYSuMáximo) {
   const DatosSísmicos& s = p.Sísmico;
   EXPECT_EQ(p.Malla.FSSísmico + s.FactorSísmicoMínimo, 0);
   // u(2x) = -2 · 9.81 · 0.2 / 100 m = -3.924 cm; u(2y) = 2 · 9.81 · 0.1 / 200 m = 0.981 cm.
-  EXPECT_EQ(s.PasosCalculados, 1);
-  EXPECT_TRUE(s.CálculoInterrumpido);
-  EXPECT_NEAR(s.DesplazamientoSísmico(1, 3), -3.924, 1e-12);
+  EXPECT_TRUE(s.PasosCalculados == 1 && s.CálculoInterrumpido && s.DesplazamientoSísmico(2, 3) == 0);
+  for (const double u : {s.DesplazamientoSísmico(1, 3), s.DesplazamientoMáximo}) EXPECT_NEAR(u, -3.924, 1e-12);
   EXPECT_NEAR(s.DesplazamientoSísmico(1, 4), 0.981, 1e-12);
-  EXPECT_NEAR(s.DesplazamientoMáximo, -3.924, 1e-12);
-  EXPECT_EQ(s.NodoMáximo, 2);
-  EXPECT_EQ(s.PasoMáximo, 1);
-  EXPECT_EQ(s.DesplazamientoSísmico(2, 3), 0);
+  EXPECT_TRUE(s.NodoMáximo == 2 && s.PasoMáximo == 1);
   EXPECT_EQ(ui.Textos().size(), 2u);  // the notice and the estimate, no end message
 }
 
