@@ -16,7 +16,7 @@
 namespace lomaterra {
 namespace {
 
-TEST(CargasRespuesta, RamasDeLaCargaDelGrado) {
+TEST(CargasRespuesta, RamasDeLaCargaDelGradoYCargaModal) {
   // W, Sp, Sd, F0, E -> P. |Sp| + Sd = 4 throughout.
   const struct { double W, Sp, Sd, F0, E, P; } casos[] = {
       {2, -3, 1, 1, -5, -7},    // 0 < |W| < 4: E + F0 + Sp
@@ -28,6 +28,16 @@ TEST(CargasRespuesta, RamasDeLaCargaDelGrado) {
       {4, -3, 1, 1, -5, 0},     // |W| = |Sp| + Sd: nothing
   };
   for (const auto& c : casos) EXPECT_DOUBLE_EQ(CargaDelGrado(c.W, c.Sp, c.Sd, c.F0, c.E), c.P) << c.W << " " << c.E;
+  // Modes (1, 1) and (1, -1), masses 2 and 3: both modal masses are 5. P = (4, 1):
+  // F1 = (4 + 1) / 5 = 1, F2 = (4 - 1) / 5 = 0.6.
+  const std::vector<double> forma = {1, 1, 1, -1}, masas = {2, 3};
+  const std::vector<double> modales = MasasModales(forma, masas, 2);
+  EXPECT_DOUBLE_EQ(modales[0], 5);
+  EXPECT_DOUBLE_EQ(modales[1], 5);
+  std::vector<double> F;
+  CargasModales(forma, modales, {4, 1}, 2, F);
+  EXPECT_DOUBLE_EQ(F[0], 1);
+  EXPECT_DOUBLE_EQ(F[1], 0.6);
 }
 
 TEST(CargasRespuesta, PresiónDePorosYEmpujeDelAgua) {
@@ -39,19 +49,6 @@ TEST(CargasRespuesta, PresiónDePorosYEmpujeDelAgua) {
   EXPECT_DOUBLE_EQ(EmpujeAguaPrimerPaso(5, -0.2), 0.2 * 5 * 9.81);
   EXPECT_DOUBLE_EQ(EmpujeAguaPrimerPaso(5, 0.1), 5);
   EXPECT_NEAR(EmpujeAguaPaso(9.81, 0.3, -0.2), 9.81 * 1.5, 1e-12);
-}
-
-TEST(CargasRespuesta, CargaModalDeDosGrados) {
-  // Modes (1, 1) and (1, -1), masses 2 and 3: both modal masses are 5. P = (4, 1):
-  // F1 = (4 + 1) / 5 = 1, F2 = (4 - 1) / 5 = 0.6.
-  const std::vector<double> forma = {1, 1, 1, -1}, masas = {2, 3};
-  const std::vector<double> modales = MasasModales(forma, masas, 2);
-  EXPECT_DOUBLE_EQ(modales[0], 5);
-  EXPECT_DOUBLE_EQ(modales[1], 5);
-  std::vector<double> F;
-  CargasModales(forma, modales, {4, 1}, 2, F);
-  EXPECT_DOUBLE_EQ(F[0], 1);
-  EXPECT_DOUBLE_EQ(F[1], 0.6);
 }
 
 TEST(Duhamel, IntegralesContraFormasCerradasYAcumulaciónAMano) {

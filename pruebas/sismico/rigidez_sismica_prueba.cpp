@@ -39,7 +39,7 @@ void SumarTriánguloCerrado(const std::vector<std::array<double, 2>>& xy, std::a
         for (int q = 0; q < 3; ++q) K[static_cast<std::size_t>((grado(a) - 1) * nd + grado(b) - 1)] += B[r][a] * D[r][q] * B[q][b] * A;
 }
 
-TEST(CondensaciónSísmica, DosElementosMasaYRigidezCondensadaAMano) {
+TEST(CondensaciónSísmica, MasaYRigidezCondensadaAManoYNumeraciónEnCualquierOrden) {
   const double E = 2000, nu = 0.3, gamma = 1.8;
   const std::vector<std::array<double, 2>> xy = {{0, 0}, {4, 0.3}, {4.2, 3}, {0.1, 2.8}};
   Proyecto p;
@@ -72,27 +72,24 @@ TEST(CondensaciónSísmica, DosElementosMasaYRigidezCondensadaAMano) {
   pruebas::Restringir(p.Malla, {{2, "S", "N", 0}, {1, "N", "N", 0}});
   EXPECT_FALSE(DeterminarGradosDeLibertad(p, ui, s));
   EXPECT_FALSE(p.Sísmico.GradosDeLibertadEstimados);
-}
-
-// Node numbers scattered over two cells, restrictions in any order: the free degrees run by node
-// number, x before y, each with the stratum of the first element that holds its node.
-TEST(CondensaciónSísmica, NumeraciónConNodosEnCualquierOrden) {
-  const std::vector<std::array<double, 2>> xy = {{2.003, 1.004}, {0.001, 0.002}, {4.005, 0.001},
-                                                 {0.002, 1.006}, {2.004, 0.003}, {4.001, 1.002}};
-  Proyecto p;
-  pruebas::ProyectoUnEstrato(p, 10, 5, 1000, 0.3, 2);
-  p.Estrato.RedimensionarConservando(2), p.Malla.MóduloElasticidad.RedimensionarConservando(2);
-  p.Estrato.PesoUnitarioHúmedo[2] = 2, p.Malla.MóduloElasticidad[2] = 3000;
+  // Node numbers scattered over two cells, restrictions in any order: the free degrees run by node
+  // number, x before y, each with the stratum of the first element that holds its node.
+  const std::vector<std::array<double, 2>> xyQ = {{2.003, 1.004}, {0.001, 0.002}, {4.005, 0.001},
+                                                  {0.002, 1.006}, {2.004, 0.003}, {4.001, 1.002}};
+  Proyecto q;
+  pruebas::ProyectoUnEstrato(q, 10, 5, 1000, 0.3, 2);
+  q.Estrato.RedimensionarConservando(2), q.Malla.MóduloElasticidad.RedimensionarConservando(2);
+  q.Estrato.PesoUnitarioHúmedo[2] = 2, q.Malla.MóduloElasticidad[2] = 3000;
   // Left cell material 1 (nodes 2, 5, 1, 4), right cell material 2 (nodes 5, 3, 6, 1).
-  pruebas::Malla(p, xy, {{{2, 5, 1, 1}}, {{2, 1, 4, 1}}, {{5, 3, 6, 2}}, {{5, 6, 1, 2}}});
-  pruebas::Restringir(p.Malla, {{5, "N", "N", 0}, {3, "S", "N", 50}, {2, "N", "N", 0}});
-  InterfazGuionada ui("NNNN");
-  MatricesSísmicas s;
-  ASSERT_TRUE(DeterminarGradosDeLibertad(p, ui, s));
-  const std::vector<long> libres = {1, 2, 5, 7, 8, 11, 12};
-  EXPECT_EQ(s.Libres, libres);
+  pruebas::Malla(q, xyQ, {{{2, 5, 1, 1}}, {{2, 1, 4, 1}}, {{5, 3, 6, 2}}, {{5, 6, 1, 2}}});
+  pruebas::Restringir(q.Malla, {{5, "N", "N", 0}, {3, "S", "N", 50}, {2, "N", "N", 0}});
+  MatricesSísmicas t;
+  InterfazGuionada otra("NNNN");
+  ASSERT_TRUE(DeterminarGradosDeLibertad(q, otra, t));
+  const std::vector<long> libresQ = {1, 2, 5, 7, 8, 11, 12};
+  EXPECT_EQ(t.Libres, libresQ);
   const double módulo[] = {1000, 1000, 3000, 1000, 1000, 3000, 3000};
-  for (long i = 1; i <= 7; ++i) EXPECT_EQ(p.Sísmico.MóduloGrado.Leer(i), módulo[i - 1]) << i;
+  for (long i = 1; i <= 7; ++i) EXPECT_EQ(q.Sísmico.MóduloGrado.Leer(i), módulo[i - 1]) << i;
 }
 
 TEST(CargasSísmicas, UnTriánguloEnLaCaraDeAguasArriba) {
@@ -100,9 +97,8 @@ TEST(CargasSísmicas, UnTriánguloEnLaCaraDeAguasArriba) {
   // reservoir at 12; moist 1.8, saturated 2.0, Ko 0.5. Triangle B(6, 3.99), A(2, 7.99), C(5, 3).
   Proyecto p;
   pruebas::ProyectoUnEstrato(p, 10, 0, 3000, 0.3, 1.8);
-  p.CoordenadasTalud.X[1] = 10, p.CoordenadasTalud.X[2] = 0, p.CoordenadasTalud.Y[2] = 10;
-  p.NúmeroPuntosFreático = 2, p.CoordenadasFreático.Redimensionar(2);
-  p.CoordenadasFreático.X[1] = 10, p.CoordenadasFreático.Y[1] = p.CoordenadasFreático.Y[2] = 12;
+  pruebas::PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{10, 0}, {0, 10}});
+  pruebas::PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{10, 12}, {0, 12}});
   p.Estrato.PesoUnitarioSaturado[1] = 2.0, p.Estrato.CoeficienteKo[1] = 0.5;
   pruebas::Malla(p, {{6, 3.99}, {2, 7.99}, {5, 3}}, {{{1, 2, 3, 1}}});  // nodes 1 (B), 2 (A), 3 (C)
   p.Malla.AnálisisPresas = true;
