@@ -6,14 +6,15 @@
 
 #include <cmath>
 
+#include "apoyo/apoyo.h"
+#include "apoyo/proyectos.h"
 #include "apoyo/sismo_apoyo.h"
 #include "elementos/elemento.h"
-#include "elementos/malla_apoyo.h"
 #include "elementos/plastico.h"
 #include "elementos/seguridad_esfuerzos.h"
 #include "elementos/viscoplastico.h"
 #include "pantallas/interfaz_guionada.h"
-#include "proyecto/proyecto.h"
+#include "proyecto/archivo.h"
 
 using namespace lomaterra;
 using namespace lomaterra::pruebas;
@@ -22,32 +23,18 @@ namespace {
 
 constexpr double kGamma = 1.8, kNu = 0.3;
 
-// A column `columnas` m wide and `filas` m high on rollers: the sides slide vertically, the base
-// horizontally, each as a stiff spring (10^12 kg/cm).
-void Columna(Proyecto& p, long columnas, long filas, double c, double fi) {
-  ProyectoUnEstrato(p, static_cast<double>(columnas), static_cast<double>(filas) + 0.0085, 5000, kNu, kGamma);
-  MallaRejilla(p, columnas, filas, 1.0, 1.0);
-  p.EstratosCaracterizados = true;
-  p.Estrato.Cohesión[1] = c;
-  p.Estrato.Fricción[1] = fi;
-  p.Estrato.Viscosidad[1] = 1000;
-  p.Malla.IntervaloDeTiempo = 0.01;
-  // A listed direction takes its spring in place of the material term of the diagonal: the free
-  // direction of a roller takes ten times that term (kg/cm, times 0.1 at use), so it keeps it.
-  InterfazGuionada sinVoz;
-  CálculoElementos k;
-  k.reloj = [] { return 0.0; };
-  Elementotriangular(p, sinVoz, k);
-  std::vector<Restricción> bordes;
-  for (long i = 0; i <= columnas; ++i)
-    for (long j = 0; j <= filas; ++j) {
-      const long n = 1 + i * (filas + 1) + j;
-      const bool lado = i == 0 || i == columnas;
-      if (lado || j == 0)
-        bordes.push_back({n, "S", "S", lado ? 1e12 : 10 * k.MatrizRigidez->Diagonal(2 * n - 1),
-                          j == 0 ? 1e12 : 10 * k.MatrizRigidez->Diagonal(2 * n)});
-    }
-  Restringir(p.Malla, bordes);
+// A column 2 m wide and 6 m high of linear triangles on rollers (pruebas/datos/elementos/
+// columna.cod: E 5000, nu 0.3, gamma 1.8, viscosity 1000, interval 0.01): the sides slide
+// vertically, the base horizontally, each as a stiff spring (10^12 kg/cm); the free direction of
+// a roller takes ten times the material term of its diagonal (kg/cm, times 0.1 at use), so it
+// keeps it.
+Proyecto Columna(double c, double fi) {
+  Proyecto p;
+  InterfazGuionada ui;
+  EXPECT_TRUE(LeerProyecto(p, pruebas::RutaDatos("elementos/columna.cod"), ui));
+  p.Estrato.Cohesión[1] = c, p.Estrato.Fricción[1] = fi;
+  p.Malla.ConfirmarElementos = true;  // the number of elements is confirmed in each session
+  return p;
 }
 
 bool Contiene(const std::vector<std::string>& textos, const std::string& trozo) {
@@ -83,8 +70,7 @@ TEST(Fluencia, CasosALaMano) {
 // constrained modulus, some millimetres here). Self weight on rollers: sigma y = -gamma d and
 // sigma x = nu/(1 - nu) sigma y at the depth d of the two lowest triangles' mean height.
 TEST(Viscoplástico, MallaElásticaTerminaEnElPrimerPaso) {
-  Proyecto p;
-  Columna(p, 2, 6, 1000, 30);
+  Proyecto p = Columna(1000, 30);
   Proyecto plástico = p;
   InterfazGuionada ui;
   CálculoEsfuerzosComportamientoViscoplástico(p, ui);
@@ -100,9 +86,11 @@ TEST(Viscoplástico, MallaElásticaTerminaEnElPrimerPaso) {
   const long cima = 1 + 1 * 7 + 6;
   EXPECT_NEAR(p.Malla.Desplazamientos(2 * cima, 1), -100 * kGamma * 36 / (2 * M), 0.1 * 100 * kGamma * 36 / (2 * M));
   double sx = 0, sy = 0, y = 0;
-  const auto& centros = p.Malla.Elemento.YCentroElemento;
-  for (long e = 1; e <= p.Malla.NúmeroDeElementos; ++e)
-    if (centros[e] < 1) sx += p.Malla.EsfuerzoX(e, 1) / 4, sy += p.Malla.EsfuerzoY(e, 1) / 4, y += centros[e] / 4;
+  const auto& el = p.Malla.Elemento;
+  for (long e = 1; e <= p.Malla.NúmeroDeElementos; ++e) {
+    const double yc = (el.YElemento(e, 1) + el.YElemento(e, 2) + el.YElemento(e, 3)) / 3;
+    if (yc < 1) sx += p.Malla.EsfuerzoX(e, 1) / 4, sy += p.Malla.EsfuerzoY(e, 1) / 4, y += yc / 4;
+  }
   const double esperadoY = -kGamma * (6 - y);
   EXPECT_NEAR(sy, esperadoY, 0.01 * std::abs(esperadoY));
   EXPECT_NEAR(sx, kNu / (1 - kNu) * esperadoY, 0.01 * std::abs(kNu / (1 - kNu) * esperadoY));
@@ -125,8 +113,7 @@ TEST(Viscoplástico, MallaElásticaTerminaEnElPrimerPaso) {
 // 4 (1 + nu)(1 - 2 nu) eta / ((sin² phi + 1 - 2 nu) E) = 2.08 / (0.43015 * 5000) = 9.671e-4 for
 // eta = 1, below the interval 0.01 of the mesh.
 TEST(Viscoplástico, FluenciaPequeñaYPasoCrítico) {
-  Proyecto p;
-  Columna(p, 2, 6, 2.65, 10);
+  Proyecto p = Columna(2.65, 10);
   p.Estrato.Viscosidad[1] = 1;
   InterfazGuionada ui;
   CálculoEsfuerzosComportamientoViscoplástico(p, ui);
@@ -142,8 +129,7 @@ TEST(Viscoplástico, FluenciaPequeñaYPasoCrítico) {
 
 // The gates in order, word for word.
 TEST(Viscoplástico, Puertas) {
-  Proyecto p;
-  Columna(p, 2, 2, 1000, 30);
+  Proyecto p = Columna(1000, 30);
   struct Caso {
     std::function<void(Proyecto&)> cambio;
     std::string texto;
@@ -189,8 +175,7 @@ TEST(Plástico, BarridoJacobiEnUnSistemaDominante) {
 // Viscoplastic, with no cohesion and little friction the column yields and goes on yielding: the
 // loop runs its four steps, shows the elastic screen after the first and ends with the message.
 TEST(Plástico, PasoDeCadaPuntoQueFluye) {
-  Proyecto p;
-  Columna(p, 2, 6, 0, 5);
+  Proyecto p = Columna(0, 5);
   Proyecto viscoso = p;
   InterfazGuionada ui;
   CálculoEsfuerzosComportamientoPlástico(p, ui);

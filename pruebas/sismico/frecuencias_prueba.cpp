@@ -234,17 +234,14 @@ TEST(PantallaFrecuencias, ElÚltimoModoCalculadoNoSePuedeElegir) {
     ResultadosDeLasFrecuenciasNaturales f(p);
     f.cerrada = false;
     f.Activar(ui);
-    EXPECT_EQ(f.nota, "FRECUENCIAS ESTIMADAS  (rad/seg)  para cada MODO DE VIBRACIÖN");
     f.texto("TextoModoDeVibración") = c.modo;
     f.Pulsar("BotónAceptar", ui);
     EXPECT_TRUE(f.cerrada);
     EXPECT_EQ(p.Sísmico.ModoDeCálculo, c.queda) << c.modo;
     EXPECT_EQ(p.Sísmico.ModoElegido, static_cast<Entero>(c.queda));
+    ASSERT_EQ(ui.Textos().size(), c.aviso ? 1u : 0u);
     if (c.aviso) {
-      ASSERT_EQ(ui.Textos().size(), 1u);
       EXPECT_NE(ui.Textos()[0].find(c.aviso), std::string::npos) << ui.Textos()[0];
-    } else {
-      EXPECT_TRUE(ui.Textos().empty());
     }
   }
 }
@@ -274,8 +271,7 @@ TEST(PantallaFrecuencias, ListaInicialYModosDeducidosDeUnArchivo) {
   f.Activar(no);
   f.texto("TextoModoDeVibración") = "2";
   f.Pulsar("BotónAceptar", no);
-  EXPECT_EQ(s.ModosCalculados, 2);
-  EXPECT_EQ(s.ModoDeCálculo, 1);
+  EXPECT_TRUE(s.ModosCalculados == 2 && s.ModoDeCálculo == 1);
 }
 
 }  // namespace
