@@ -179,21 +179,14 @@ TEST(Almacenes, CerosEnLaDiagonal) {
 }
 
 // Refinement by four of two triangles that share a side.
-// One cell of 2 × 2 m cut along its diagonal: nodes 1 (0,0), 2 (0,2), 3 (2,0), 4 (2,2) plus the
-// millimetre offsets; elements (1,3,4) and (1,4,2) share the side 1-4.
+// One cell of 2 × 2 m cut along its diagonal (pruebas/datos/elementos/dos_triangulos.cod): nodes
+// 1 (0,0), 2 (0,2), 3 (2,0), 4 (2,2) plus the millimetre offsets; elements (1,3,4) and (1,4,2)
+// share the side 1-4; node 3 restrained; a load qy = 7.5 on side 3-4 of element 1.
 Proyecto DosTriángulos() {
   Proyecto p;
-  pruebas::ProyectoUnEstrato(p, 2, 10, 1000, 0.3, 1.8);
-  pruebas::MallaRejilla(p, 1, 1, 2.0, 2.0);
-  MallaElementos& m = p.Malla;
-  pruebas::Restringir(m, {{3, "", ""}});
-  m.CargasUniformesDefinidas = true;
-  m.NúmeroCargasUniformes = 1;
-  m.CargaUniforme.Redimensionar(1);
-  m.CargaUniforme.ElementoDeCarga[1] = 1;
-  m.CargaUniforme.NodoUnoCarga[1] = 3;
-  m.CargaUniforme.NodoDosCarga[1] = 4;
-  m.CargaUniforme.CargaQy[1] = 7.5;
+  InterfazGuionada ui;
+  EXPECT_TRUE(LeerProyecto(p, pruebas::RutaDatos("elementos/dos_triangulos.cod"), ui));
+  p.Malla.ConfirmarElementos = true;  // the number of elements is confirmed in each session
   return p;
 }
 
