@@ -1,7 +1,5 @@
 // Meshes built in code for the element and seismic tests: one stratum under a flat slope line,
-// linear triangles over nodes given by number, and a grid of them whose nodes are offset by a
-// few millimetres in a fixed pattern, so that no triangle has two equal abscissas or ordinates
-// and the nudge of the stiffness never moves a node.
+// linear triangles over nodes given by number, restrictions, the area of a triangle.
 #pragma once
 
 #include <array>
@@ -19,17 +17,14 @@ inline void ProyectoUnEstrato(Proyecto& p, double ancho, double alto, double E, 
   p.TipoDeAnálisis = "F";
   p.TipoDeMaterial = "S";
   PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{ancho + 100, alto}, {-100, alto}});
-  p.NúmeroEstratos = 1;
-  p.PuntosEstrato.Redimensionar(1);
+  p.PuntosEstrato.Redimensionar(p.NúmeroEstratos = 1);
   p.PuntosEstrato[1] = 2;
-  p.XEstrato.Redimensionar(1, 2);
-  p.YEstrato.Redimensionar(1, 2);
+  p.XEstrato.Redimensionar(1, 2), p.YEstrato.Redimensionar(1, 2);
   p.XEstrato(1, 1) = ancho + 100, p.YEstrato(1, 1) = -1000, p.XEstrato(1, 2) = -100, p.YEstrato(1, 2) = -1000;
   p.Estrato.RedimensionarConservando(1);
   p.Estrato.PesoUnitarioHúmedo[1] = p.Estrato.PesoUnitarioSaturado[1] = gamma;
   p.Estrato.CoeficienteKo[1] = 0;
-  p.Malla.MóduloElasticidad.Redimensionar(1);
-  p.Malla.CoeficientePoisson.Redimensionar(1);
+  p.Malla.MóduloElasticidad.Redimensionar(1), p.Malla.CoeficientePoisson.Redimensionar(1);
   p.Malla.MóduloElasticidad[1] = E, p.Malla.CoeficientePoisson[1] = nu;
 }
 
@@ -62,25 +57,6 @@ inline void Malla(Proyecto& p, const std::vector<std::array<double, 2>>& xy,
   }
   m.NodosDefinidos = m.ElementosDefinidos = m.MaterialesAsignados = true;
   m.CaracterísticasElásticasDadas = m.ConfirmarElementos = true;
-}
-
-// A grid of cells dx × dy, node 1 + i·(filas+1) + j at column i, row j, moved by a fixed few
-// millimetres; two counter-clockwise triangles a cell, all of material 1.
-inline void MallaRejilla(Proyecto& p, long columnas, long filas, double dx, double dy) {
-  auto mm = [](long k) { return 0.001 * static_cast<double>(k % 7 + 1); };
-  std::vector<std::array<double, 2>> xy;
-  for (long i = 0; i <= columnas; ++i)
-    for (long j = 0; j <= filas; ++j)
-      xy.push_back({static_cast<double>(i) * dx + mm(3 * i + 5 * j),
-                    static_cast<double>(j) * dy + mm(5 * i + 3 * j)});
-  auto n = [&](long i, long j) { return 1 + i * (filas + 1) + j; };
-  std::vector<std::array<long, 4>> tri;
-  for (long i = 0; i < columnas; ++i)
-    for (long j = 0; j < filas; ++j) {
-      tri.push_back({n(i, j), n(i + 1, j), n(i + 1, j + 1), 1});
-      tri.push_back({n(i, j), n(i + 1, j + 1), n(i, j + 1), 1});
-    }
-  Malla(p, xy, tri);
 }
 
 // Restriction rows in the order given: "N" holds a direction, "S" leaves it on its spring

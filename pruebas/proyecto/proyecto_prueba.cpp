@@ -106,7 +106,7 @@ TEST(Panel, AbscisasIgualesBajanUnCentésimoYLosEstratosVanPorFila) {
   EXPECT_DOUBLE_EQ(p.Ventana.ListaCoordenadas[0].Y, 8.0);
 }
 
-TEST(Formato, PatronesDeLasPantallas) {
+TEST(Formato, PatronesDeLasPantallasYFormasDeNúmero) {
   // 2.675 is the decimal value the user reads; halves go away from zero; no negative zero.
   const struct { double x; const char *patrón, *texto; } casos[] = {
       {3.14159, "#0.00", "3.14"}, {2.675, "#0.00", "2.68"}, {-0.125, "#0.00", "-0.13"},
@@ -125,9 +125,6 @@ TEST(Formato, PatronesDeLasPantallas) {
   EXPECT_THROW(Ln(0.0), FalloAritmético);
   EXPECT_THROW(Pot(10.0, 400.0), FalloAritmético);
   EXPECT_DOUBLE_EQ(Raíz(9.0), 3.0);
-}
-
-TEST(EsNúmero, FormasAceptadasYRechazadas) {
   for (const char* s : {"1", " 2.5 ", "-.25", ".5", "+3", "1E-05", "2.5E+20", "1e3", "7.", "1D2"})
     EXPECT_TRUE(EsNúmero(s)) << s;
   for (const char* s : {"", " ", "abc", "1,5", "1.2.3", "e5", "1E", "--1", ".", "1 2"})
@@ -137,7 +134,7 @@ TEST(EsNúmero, FormasAceptadasYRechazadas) {
   EXPECT_DOUBLE_EQ(ANúmero("texto"), 0.0);
 }
 
-TEST(Secuencial, EscribeLíneasCrLfYLeeLoEscrito) {
+TEST(Secuencial, EscribeLíneasCrLfLeeLoEscritoYCodifica) {
   EscritorSecuencial e;
   e.Texto("Talud \"norte\"").Real(0.1 + 0.2).Entero(-3).Fin();
   e.Real(1e-5).Real(2.5e20).Bandera(false).Letra(true).Fin();
@@ -159,9 +156,6 @@ TEST(Secuencial, EscribeLíneasCrLfYLeeLoEscrito) {
     LectorSecuencial m(malo);
     EXPECT_THROW(m.LeerReal(), ErrorLectura) << malo;
   }
-}
-
-TEST(Secuencial, Windows1252YUtf8) {
   const std::string utf8 = "Presa Peñón – año";
   const std::string cp = CodificarWindows1252(utf8);
   EXPECT_EQ(cp, std::string("Presa Pe\xF1\xF3n \x96 a\xF1o"));

@@ -117,7 +117,7 @@ TEST(CorridaRespuesta, PuertasEnOrdenYArchivoDeLaCorrida) {
   EXPECT_EQ(pruebas::LeerArchivo(dos), pruebas::LeerArchivo(uno));
 }
 
-TEST(CorridaRespuesta, CorteYReglaDel75ConSusPreguntas) {
+TEST(CorridaRespuesta, CorteReglaDel75YCancelar) {
   const char* const k75 = "El 75% de los nodos, tienen desplazamientos mayores a 50 cm. Por tanto, se considera que la masa de suelo o roca, que se está analizando ha perdido totalmente su resistencia al corte.  Para los siguientes registros sísmicos, los esfuerzos y desplazamientos comenzarán a ser muy elevados, indicando el colapsado total. Sin embargo:  ¿Desea que el programa continúe calculando esfuerzos y desplazamientos.?.";
   const char* const kCorte = "Los desplazamientos comienzan a tener valores elevados (mayores a 10^4).  ¿Desea salir del cálculo para ir a la opción de Resultados tabulados o gráficas?.";
   const char* const kFin = "Se finalizó el cálculo de esfuerzos y desplazamientos a partir de la ecuación de movimiemto método paso a paso.";
@@ -142,9 +142,6 @@ TEST(CorridaRespuesta, CorteYReglaDel75ConSusPreguntas) {
     EXPECT_TRUE(s.PasosCalculados == 1 && s.ResultadosSísmicos && s.CorteAlcanzado == c.corte);
     EXPECT_DOUBLE_EQ(s.DesplazamientoSísmico(1, 3), c.u);
   }
-}
-
-TEST(CorridaRespuesta, CancelarDejaLosPasosHechosEnCentímetrosYSuMáximo) {
   Proyecto p = Listo();
   Diagonal(p, 100);
   InterfazGuionada ui;

@@ -18,7 +18,7 @@
 namespace lomaterra {
 namespace {
 
-TEST(FrecuenciasIniciales, LaSerieDaLosCerosDeJ0) {
+TEST(FrecuenciasIniciales, SerieCasosDeGmaxYCuñaDeCorte) {
   // Zeros of J0 from the tables (Abramowitz and Stegun, table 9.5). The asymptotic series is poor
   // at n = 1 (its last term there is about 0.005) and good to 1e-4 from n = 2 on.
   const double ceros[] = {2.4048, 5.5201, 8.6537, 11.7915, 14.9309};
@@ -26,9 +26,6 @@ TEST(FrecuenciasIniciales, LaSerieDaLosCerosDeJ0) {
     EXPECT_NEAR(CeroBesselJ0(n), ceros[n - 1], n == 1 ? 0.01 : 1e-4) << n;
   // Far out the zeros are spaced by π; with m in 16 bits m² would have overflowed from n = 46.
   EXPECT_NEAR(CeroBesselJ0(1000) - CeroBesselJ0(999), 3.14159, 1e-5);
-}
-
-TEST(FrecuenciasIniciales, CasosDeGmax) {
   // s = (K0 + 1) sv / 2 = (0.5 + 1) * 20 / 2 = 15 t/m2 in every case.
   const double s = 15;
   struct Caso { SueloParaGmax suelo; char caso; double valor; };
@@ -51,9 +48,6 @@ TEST(FrecuenciasIniciales, CasosDeGmax) {
   }
   EXPECT_DOUBLE_EQ(FactorkPorIp(70), 0.41 + 0.035);
   EXPECT_DOUBLE_EQ(FactorkPorIp(120), 0.5);
-}
-
-TEST(FrecuenciasIniciales, CuñaDeCorteYDatosQueNoSePuedenUsar) {
   // Method 1: G = Vs² γ / g, so sqrt(G g / γ) = Vs. H = 64 m gives H^(5/6) = 32.
   std::vector<PropiedadesGrado> grados(3, PropiedadesGrado{0, 0.3, 2.0, 240, 0});
   std::vector<double> w;
