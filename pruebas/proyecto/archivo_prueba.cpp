@@ -368,8 +368,8 @@ TEST_F(ArchivoProyecto, ArchivosQueNoSePuedenLeer) {
     ui.Olvidar();
     EXPECT_FALSE(LeerProyecto(q, leer, ui));
     EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Error leyendo archivo"});
-    EXPECT_TRUE(q.InformaciónProyecto.Empresa == "Otra" && q.NúmeroPuntosTalud == 4);
-    EXPECT_EQ(q.NúmeroEstratos, 2);
+    EXPECT_EQ(q.InformaciónProyecto.Empresa, "Otra");
+    EXPECT_TRUE(q.NúmeroPuntosTalud == 4 && q.NúmeroEstratos == 2);
   }
 }
 

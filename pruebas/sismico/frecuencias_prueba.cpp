@@ -61,7 +61,7 @@ TEST(FrecuenciasIniciales, SerieCasosDeGmaxYCuñaDeCorte) {
   EXPECT_EQ(w, std::vector<double>{7});
 }
 
-TEST(InversaExplícita, PorBloquesIgualALaSimpleYPivoteCeroFilaPorFila) {
+TEST(InversaExplícita, PorBloquesIgualALaSimplePivoteCeroYRedondeoAOnceDecimales) {
   const long n = 150;  // three tiles of 64 rows, the last one short
   std::mt19937 azar(7);
   std::uniform_real_distribution<double> u(-1, 1);
@@ -84,13 +84,10 @@ TEST(InversaExplícita, PorBloquesIgualALaSimpleYPivoteCeroFilaPorFila) {
   const std::vector<double> singular = {1, 1, 0, 1, 1, 0, 0, 0, 1};
   EXPECT_EQ(InversaGaussJordanSimple(singular, 3, simple), 2);
   EXPECT_EQ(InversaGaussJordanPorBloques(singular, 3, bloques), 2);
-}
-
-TEST(InversaExplícita, RedondeoAOnceDecimalesComoElTexto) {
-  std::mt19937 azar(3);
+  std::mt19937 otroAzar(3);
   std::uniform_real_distribution<double> mantisa(-10, 10);
   for (int k = 0; k < 20000; ++k) {
-    const double x = mantisa(azar) * std::pow(10.0, -static_cast<int>(azar() % 16));
+    const double x = mantisa(otroAzar) * std::pow(10.0, -static_cast<int>(otroAzar() % 16));
     ASSERT_EQ(Redondear11(x), ANúmero(Formato(x, "#0.00000000000"))) << x;
   }
   EXPECT_EQ(Redondear11(1.5e-11), 2e-11);  // halves away from zero, on the decimal value
@@ -174,7 +171,8 @@ TEST(FormasModales, TopesOrdenDiagonalCeroYPivoteCero) {
   const Corrida r = Correr({2, -1, -1, 2}, {1, 0, 0, 1}, 2, {std::sqrt(1 + 3e-12), 1.9}, "S");
   EXPECT_FALSE(r.hecho);
   ASSERT_EQ(r.textos.size(), 1u);
-  EXPECT_NE(r.textos[0].find("modo de vibración 1 se halló un pivote cero en la fila 2"), std::string::npos);
+  EXPECT_NE(r.textos[0].find("modo de vibración 1 se halló un pivote cero en la fila 2"),
+            std::string::npos);
   Proyecto p;
   InterfazGuionada ui;
   CálculoDeLoVectoresDeFormaModales(p, ui);
