@@ -170,7 +170,7 @@ TEST(Almacenes, CerosEnLaDiagonal) {
 }
 
 // Refinement by four of two triangles that share a side.
-TEST(Refinamiento, DosTriángulosDanOchoYNueveNodos) {
+TEST(Refinamiento, DosTriángulosDanOchoYNueveNodosOSeRechazan) {
   Proyecto p = DosTriángulos();
   const auto& antes = p.Malla.Elemento;  // element 1 is (1, 3, 4): the shared side joins its k = 1 and 3
   const double xm = (antes.XElemento(1, 1) + antes.XElemento(1, 3)) / 2;
@@ -219,13 +219,10 @@ TEST(Refinamiento, DosTriángulosDanOchoYNueveNodos) {
     EXPECT_LE(m.CargaUniforme.ElementoDeCarga[r], 4);
   }
   EXPECT_EQ(ui.Textos().size(), 2u);  // the question and the closing message
-}
-
-TEST(Refinamiento, NoConfirmaYSeisNodosSeRechazan) {
-  Proyecto p = DosTriángulos();
+  Proyecto n = DosTriángulos();
   InterfazGuionada no("N");
-  IncrementeNúmeroDeElementos(p, no);
-  EXPECT_TRUE(p.Malla.ConfirmarElementos && p.Malla.NúmeroDeElementos == 2);
+  IncrementeNúmeroDeElementos(n, no);
+  EXPECT_TRUE(n.Malla.ConfirmarElementos && n.Malla.NúmeroDeElementos == 2);
 
   Proyecto q = DosTriángulos();
   q.Malla.Elemento.NodosPorElemento[2] = 6;
@@ -239,9 +236,9 @@ TEST(Refinamiento, NoConfirmaYSeisNodosSeRechazan) {
 
   Proyecto r = DosTriángulos();
   r.Malla.NodosRestringidosDefinidos = false;
-  InterfazGuionada ui;
-  IncrementeNúmeroDeElementos(r, ui);
-  EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Defina los nodos con restricción"});
+  InterfazGuionada callada;
+  IncrementeNúmeroDeElementos(r, callada);
+  EXPECT_EQ(callada.Textos(), std::vector<std::string>{"Defina los nodos con restricción"});
 }
 
 using Tabla3 = std::map<long, std::pair<double, double>>;

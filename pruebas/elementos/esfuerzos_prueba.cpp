@@ -4,7 +4,9 @@
 // one step, checked by hand.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "apoyo/apoyo.h"
 #include "apoyo/proyectos.h"
@@ -38,9 +40,8 @@ Proyecto Columna(double c, double fi) {
 }
 
 bool Contiene(const std::vector<std::string>& textos, const std::string& trozo) {
-  for (const auto& t : textos)
-    if (t.find(trozo) != std::string::npos) return true;
-  return false;
+  auto tiene = [&](const std::string& t) { return t.find(trozo) != std::string::npos; };
+  return std::any_of(textos.begin(), textos.end(), tiene);
 }
 
 int Pantallas(const InterfazGuionada& ui, const std::string& nombre) {
@@ -51,25 +52,11 @@ int Pantallas(const InterfazGuionada& ui, const std::string& nombre) {
 
 }  // namespace
 
-// Yield function by hand. With phi = 0 it is Tresca: a = 0, J = tau² + (sy - sx)²/2, F = sqrt(J) - c.
-// Under equal normal stresses and no shear, J = 0 and F = sin phi · sigma - c cos phi.
-TEST(Fluencia, CasosALaMano) {
-  const struct { double sx, sy, t, fi, c, F; } casos[] = {
-      {0, 0, 5, 0, 2, 3},
-      {-4, 4, 0, 0, 1, std::sqrt(32.0) - 1},
-      {-10, -10, 0, 30, 1, -5 - std::cos(M_PI / 6)},
-  };
-  for (const auto& k : casos) {
-    const EstadoFluencia f = FunciónDeFluencia(k.sx, k.sy, k.t, k.fi * 3.14159265358979 / 180, k.c);
-    EXPECT_NEAR(f.F, k.F, 1e-9) << k.sx << " " << k.sy << " " << k.t;
-  }
-}
-
 // Far from yield: one step, no elastic screen, no convergence message; the finish screen only;
 // displacements in centimetres (the base settles by about gamma H² / (2 M) with M the
 // constrained modulus, some millimetres here). Self weight on rollers: sigma y = -gamma d and
 // sigma x = nu/(1 - nu) sigma y at the depth d of the two lowest triangles' mean height.
-TEST(Viscoplástico, MallaElásticaTerminaEnElPrimerPaso) {
+TEST(Viscoplástico, PuertasMallaElásticaYFluenciaPequeña) {
   Proyecto p = Columna(1000, 30);
   Proyecto plástico = p;
   InterfazGuionada ui;
@@ -97,27 +84,25 @@ TEST(Viscoplástico, MallaElásticaTerminaEnElPrimerPaso) {
   // Perfect plasticity far from yield: the plastic step 2 repeats the elastic step 1.
   InterfazGuionada otra;
   CálculoEsfuerzosComportamientoPlástico(plástico, otra);
-  const MallaElementos& m = plástico.Malla;
-  ASSERT_EQ(m.NúmeroDeIteración, 2);
-  for (long e = 1; e <= m.NúmeroDeElementos; ++e) {
-    EXPECT_EQ(m.EsfuerzoY(e, 2), m.EsfuerzoY(e, 1));
-    EXPECT_EQ(m.EsfuerzoPrincipalMenor(e, 2), m.EsfuerzoPrincipalMenor(e, 1));
+  const MallaElementos& w = plástico.Malla;
+  ASSERT_EQ(w.NúmeroDeIteración, 2);
+  for (long e = 1; e <= w.NúmeroDeElementos; ++e) {
+    EXPECT_EQ(w.EsfuerzoY(e, 2), w.EsfuerzoY(e, 1));
+    EXPECT_EQ(w.EsfuerzoPrincipalMenor(e, 2), w.EsfuerzoPrincipalMenor(e, 1));
   }
-  for (long d = 1; d <= 2L * m.NúmeroDeNodos; ++d) EXPECT_EQ(m.Desplazamientos(d, 2), m.Desplazamientos(d, 1));
+  for (long d = 1; d <= 2L * w.NúmeroDeNodos; ++d)
+    EXPECT_EQ(w.Desplazamientos(d, 2), w.Desplazamientos(d, 1));
   EXPECT_EQ(Pantallas(otra, "Form29"), 1);
-}
-
-// A column that yields a little: cohesion 2.65 and 10 degrees give at depth d, under sigma y =
-// -1.8 d and sigma x = 0.4286 sigma y, F = 0.504 d - 0.985 c, some 0.25 at the lowest centres
-// (d = 5.67). Such points still push the next step. Their time step is the critical one,
-// 4 (1 + nu)(1 - 2 nu) eta / ((sin² phi + 1 - 2 nu) E) = 2.08 / (0.43015 * 5000) = 9.671e-4 for
-// eta = 1, below the interval 0.01 of the mesh.
-TEST(Viscoplástico, FluenciaPequeñaYPasoCrítico) {
-  Proyecto p = Columna(2.65, 10);
-  p.Estrato.Viscosidad[1] = 1;
-  InterfazGuionada ui;
-  CálculoEsfuerzosComportamientoViscoplástico(p, ui);
-  const MallaElementos& m = p.Malla;
+  // A column that yields a little: cohesion 2.65 and 10 degrees give at depth d, under sigma y =
+  // -1.8 d and sigma x = 0.4286 sigma y, F = 0.504 d - 0.985 c, some 0.25 at the lowest centres
+  // (d = 5.67). Such points still push the next step. Their time step is the critical one,
+  // 4 (1 + nu)(1 - 2 nu) eta / ((sin² phi + 1 - 2 nu) E) = 2.08 / (0.43015 * 5000) = 9.671e-4 for
+  // eta = 1, below the interval 0.01 of the mesh.
+  Proyecto poca = Columna(2.65, 10);
+  poca.Estrato.Viscosidad[1] = 1;
+  InterfazGuionada uf;
+  CálculoEsfuerzosComportamientoViscoplástico(poca, uf);
+  const MallaElementos& m = poca.Malla;
   double mayor = -1e9;
   for (long k = 1; k <= 3 * m.NúmeroDeElementos; ++k) mayor = std::max(mayor, m.FunciónFluencia.Leer(k, 1));
   ASSERT_TRUE(mayor > 0.1 && mayor < 0.4 && m.NúmeroDeIteración >= 2) << mayor;
@@ -125,11 +110,8 @@ TEST(Viscoplástico, FluenciaPequeñaYPasoCrítico) {
   bool mueve = false;
   for (long d = 1; d <= 2L * m.NúmeroDeNodos; ++d) mueve = mueve || m.Desplazamientos(d, 2) != m.Desplazamientos(d, 1);
   EXPECT_TRUE(mueve);
-}
-
-// The gates in order, word for word.
-TEST(Viscoplástico, Puertas) {
-  Proyecto p = Columna(1000, 30);
+  // The gates in order, word for word.
+  const Proyecto base = Columna(1000, 30);
   const std::pair<std::function<void(Proyecto&)>, std::string> casos[] = {
       {[](Proyecto& q) { q.TipoDeAnálisis = "T"; }, "Ud. no está trabajando con elementos finitos"},
       {[](Proyecto& q) { q.EstratosCaracterizados = false; },
@@ -148,7 +130,7 @@ TEST(Viscoplástico, Puertas) {
        "elástico-viscoplástico.  ¿Desea continuar?."},
   };
   for (const auto& [cambio, texto] : casos) {
-    Proyecto q = p;
+    Proyecto q = base;
     cambio(q);
     InterfazGuionada ui("N");
     CálculoEsfuerzosComportamientoViscoplástico(q, ui);
@@ -164,7 +146,7 @@ TEST(Viscoplástico, Puertas) {
 // Dp e + (D - Dp)^T t a.
 // Viscoplastic, with no cohesion and little friction the column yields and goes on yielding: the
 // loop runs its four steps, shows the elastic screen after the first and ends with the message.
-TEST(Plástico, BarridoJacobiYPasoDeCadaPuntoQueFluye) {
+TEST(Plástico, FluenciaALaManoBarridoJacobiYPasoDeCadaPuntoQueFluye) {
   Proyecto p = Columna(0, 5);
   Proyecto viscoso = p;
   InterfazGuionada ui;
@@ -220,6 +202,17 @@ TEST(Plástico, BarridoJacobiYPasoDeCadaPuntoQueFluye) {
   // gives x = 19/11, y = 23/11.
   const std::vector<double> x = BarridoJacobi({4, 1, 1, 3}, {9, 8}, 2);
   EXPECT_TRUE(std::abs(x[0] - 19.0 / 11) < 0.002 && std::abs(x[1] - 23.0 / 11) < 0.002);
+  // Yield function by hand. With phi = 0 it is Tresca: a = 0, J = tau² + (sy - sx)²/2, F = sqrt(J) - c.
+  // Under equal normal stresses and no shear, J = 0 and F = sin phi · sigma - c cos phi.
+  const struct { double sx, sy, t, fi, c, F; } casos[] = {
+      {0, 0, 5, 0, 2, 3},
+      {-4, 4, 0, 0, 1, std::sqrt(32.0) - 1},
+      {-10, -10, 0, 30, 1, -5 - std::cos(M_PI / 6)},
+  };
+  for (const auto& k : casos) {
+    const EstadoFluencia f = FunciónDeFluencia(k.sx, k.sy, k.t, k.fi * 3.14159265358979 / 180, k.c);
+    EXPECT_NEAR(f.F, k.F, 1e-9) << k.sx << " " << k.sy << " " << k.t;
+  }
 }
 
 namespace {
@@ -288,7 +281,7 @@ Proyecto Momentos(double fi, const pruebas::Puntos& talud) {
 
 }  // namespace
 
-TEST(FactorDesdeEsfuerzos, FormaDeFuerzasALaManoYPuertas) {
+TEST(FactorDesdeEsfuerzos, FormasDeFuerzasYDeMomentosALaManoYPuertas) {
   Proyecto p = DosDovelas();
   p.CálculoHecho = false;
   InterfazGuionada ui;
@@ -315,14 +308,11 @@ TEST(FactorDesdeEsfuerzos, FormaDeFuerzasALaManoYPuertas) {
   EXPECT_EQ(no.Textos(), std::vector<std::string>{"El factor de seguridad ya se estimó considerando un comportamiento "
                                                   "viscoplástico. ¿Desea volver a calcularlo?"});
   EXPECT_EQ(p.Malla.FSViscoplástico, 1.2);
-}
-
-// Moment form about the point ((x last - x first)/2, (y last - y first)/2) of the slope line. With
-// no friction (t = 0) and sigma x = tau = 0: R = c b / cos a, N = (W - tan a b c / F) / cos a, and
-// with k = (dy sin a + dx cos a) the equation F = sum(R (sin a dx - cos a dy)) / sum(k N) has the
-// root F = (num + S2) / S1, S1 = sum(k W / cos a), S2 = sum(k tan a b c / cos a).
-TEST(FactorDesdeEsfuerzos, FormaDeMomentosSinFricción) {
-  const Proyecto p = Momentos(0, {{0, 0}, {20, 30}});
+  // Moment form about the point ((x last - x first)/2, (y last - y first)/2) of the slope line. With
+  // no friction (t = 0) and sigma x = tau = 0: R = c b / cos a, N = (W - tan a b c / F) / cos a, and
+  // with k = (dy sin a + dx cos a) the equation F = sum(R (sin a dx - cos a dy)) / sum(k N) has the
+  // root F = (num + S2) / S1, S1 = sum(k W / cos a), S2 = sum(k tan a b c / cos a).
+  const Proyecto sin = Momentos(0, {{0, 0}, {20, 30}});
   const double cx = 10, cy = 15, a = std::atan(5 / 10.01), b = 5, W = 50, c = 5;
   double num = 0, S1 = 0, S2 = 0;
   for (double x : {7.5, 2.5}) {
@@ -332,16 +322,13 @@ TEST(FactorDesdeEsfuerzos, FormaDeMomentosSinFricción) {
     S1 += k * W / std::cos(a);
     S2 += k * std::tan(a) * b * c / std::cos(a);
   }
-  EXPECT_NEAR(p.Malla.FSViscoplástico, (num + S2) / S1, 0.02);
-  EXPECT_NEAR(p.Malla.FSElástico, (num + S2) / S1, 0.02);
-}
-
-// The same form with friction (30 degrees, c = 5) about (-5, 15): N = (W - tan a b c / F) / m_a with
-// m_a = cos a + sin a tan phi / F, R = c b / cos a + tan phi N. The root of F = sum(R (sin a dx -
-// cos a dy)) / sum(k N), found here by halving [2, 10], is 5.2652.
-TEST(FactorDesdeEsfuerzos, FormaDeMomentosConFricción) {
-  const Proyecto p = Momentos(30, {{10, 0}, {0, 30}});
-  const double a = std::atan(5 / 10.01), t = std::tan(M_PI / 6), b = 5, W = 50, c = 5;
+  EXPECT_NEAR(sin.Malla.FSViscoplástico, (num + S2) / S1, 0.02);
+  EXPECT_NEAR(sin.Malla.FSElástico, (num + S2) / S1, 0.02);
+  // The same form with friction (30 degrees, c = 5) about (-5, 15): N = (W - tan a b c / F) / m_a with
+  // m_a = cos a + sin a tan phi / F, R = c b / cos a + tan phi N. The root of F = sum(R (sin a dx -
+  // cos a dy)) / sum(k N), found here by halving [2, 10], is 5.2652.
+  const Proyecto con = Momentos(30, {{10, 0}, {0, 30}});
+  const double t = std::tan(M_PI / 6);
   auto resto = [&](double F) {
     double num = 0, den = 0;
     for (double x : {7.5, 2.5}) {
@@ -355,7 +342,7 @@ TEST(FactorDesdeEsfuerzos, FormaDeMomentosConFricción) {
   double bajo = 2, alto = 10;
   for (int k = 0; k < 60; ++k) (resto((bajo + alto) / 2) > 0 ? bajo : alto) = (bajo + alto) / 2;
   EXPECT_NEAR(bajo, 5.2652, 1e-4);
-  EXPECT_NEAR(p.Malla.FSViscoplástico, bajo, 0.02);
+  EXPECT_NEAR(con.Malla.FSViscoplástico, bajo, 0.02);
 }
 
 // The factor of safety on the seismic stresses of one step, worked by hand.
@@ -386,7 +373,7 @@ Proyecto CasoSísmico() {
 
 }  // namespace
 
-TEST(FactorSísmico, ElPasoElegidoOElÚltimo) {
+TEST(FactorSísmico, ElPasoElegidoOElÚltimoYElMenorGuardado) {
   const struct { DatosSísmicos::Entero elegido; double F; long paso; } casos[] = {
       {1, 1.5, 1}, {2, 0.75, 2}, {0, 6 / 5.6, 3}, {7, 6 / 5.6, 3}, {-1, 0, 0}};
   for (const auto& c : casos) {
@@ -404,9 +391,6 @@ TEST(FactorSísmico, ElPasoElegidoOElÚltimo) {
     EXPECT_EQ(p.Sísmico.PasoFactorSísmico, c.paso);
     EXPECT_EQ(ui.Textos()[0].find("registro " + std::to_string(c.paso)) != std::string::npos, c.paso > 0);
   }
-}
-
-TEST(FactorSísmico, GuardaElMenorYSeRepiteConPermiso) {
   Proyecto p = CasoSísmico();
   InterfazGuionada ui("SN");
   for (DatosSísmicos::Entero k : {1, 2, 3}) {
@@ -423,3 +407,4 @@ TEST(FactorSísmico, GuardaElMenorYSeRepiteConPermiso) {
   EXPECT_NEAR(v[0].second, 1.5, 1e-12);
   EXPECT_NEAR(v[2].second, 6 / 5.6, 1e-12);
 }
+

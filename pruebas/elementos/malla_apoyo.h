@@ -14,16 +14,14 @@ namespace lomaterra::pruebas {
 // lies far below, and a flat slope line at y = alto.
 inline void ProyectoUnEstrato(Proyecto& p, double ancho, double alto, double E, double nu,
                               double gamma) {
-  p.TipoDeAnálisis = "F";
-  p.TipoDeMaterial = "S";
+  p.TipoDeAnálisis = "F", p.TipoDeMaterial = "S";
   PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{ancho + 100, alto}, {-100, alto}});
   p.PuntosEstrato.Redimensionar(p.NúmeroEstratos = 1);
   p.PuntosEstrato[1] = 2;
   p.XEstrato.Redimensionar(1, 2), p.YEstrato.Redimensionar(1, 2);
   p.XEstrato(1, 1) = ancho + 100, p.YEstrato(1, 1) = -1000, p.XEstrato(1, 2) = -100, p.YEstrato(1, 2) = -1000;
-  p.Estrato.RedimensionarConservando(1);
+  p.Estrato.RedimensionarConservando(1), p.Estrato.CoeficienteKo[1] = 0;
   p.Estrato.PesoUnitarioHúmedo[1] = p.Estrato.PesoUnitarioSaturado[1] = gamma;
-  p.Estrato.CoeficienteKo[1] = 0;
   p.Malla.MóduloElasticidad.Redimensionar(1), p.Malla.CoeficientePoisson.Redimensionar(1);
   p.Malla.MóduloElasticidad[1] = E, p.Malla.CoeficientePoisson[1] = nu;
 }

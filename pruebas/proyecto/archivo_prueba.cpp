@@ -21,11 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void EscribirBytes(const std::string& ruta, const std::string& bytes) {
-  std::ofstream f(ruta, std::ios::binary);
-  f << bytes;
-}
-
 // Lines of a file as it stands, without their CR LF.
 std::vector<std::string> Líneas(const std::string& bytes) {
   std::vector<std::string> r;
@@ -71,7 +66,7 @@ class ArchivoProyecto : public ::testing::Test {
 
 // ----- Round trips
 
-TEST_F(ArchivoProyecto, CadaArchivoSeGuardaEnSusMismosBytes) {
+TEST_F(ArchivoProyecto, CadaArchivoEnSusMismosBytesYVariantesIdaYVuelta) {
   for (const std::string nombre : {"suelo.cod", "roca.cod", "roca_instantaneos.cod"}) {
     SCOPED_TRACE(nombre);
     Proyecto p = Leído(nombre);
@@ -82,9 +77,6 @@ TEST_F(ArchivoProyecto, CadaArchivoSeGuardaEnSusMismosBytes) {
     const std::string original = pruebas::RutaDatos("proyecto/" + nombre);
     EXPECT_EQ(pruebas::LeerArchivo(ruta), pruebas::LeerArchivo(original));
   }
-}
-
-TEST_F(ArchivoProyecto, VariantesIdaYVuelta) {
   // The history keeps its last row only, also when that row is the first.
   for (Entero k : {3, 1}) {
     Proyecto p = Leído("suelo.cod");
@@ -155,7 +147,7 @@ TEST_F(ArchivoProyecto, LetraDeVaríaRadioSoloConUnArcoYBishop) {
 
 // ----- Texts and numbers
 
-TEST_F(ArchivoProyecto, DescripciónComillasYAcentos) {
+TEST_F(ArchivoProyecto, DescripciónComillasAcentosYArchivoAntiguo) {
   Proyecto p = Leído("suelo.cod", false);
   p.Ventana.TextoProyecto = "Primera línea\r\nsegunda \"corte\"\nfin";
   p.InformaciónProyecto.Empresa = "Compañía Técnica Ñandú";
@@ -176,6 +168,24 @@ TEST_F(ArchivoProyecto, DescripciónComillasYAcentos) {
   t[1] = 3, t[2] = 7, t[3] = 2, t[4] = 9;
   // Only the rows counted; rows beyond the table read 0.
   EXPECT_TRUE(MayorDeLista(t, 3) == 7 && MayorDeLista(t, 0) == 0 && MayorDeLista(t, 6) == 9);
+  Proyecto a;
+  ASSERT_TRUE(LeerProyecto(a, pruebas::RutaDatos("antiguo_suelo.cod"), ui));
+  EXPECT_TRUE(ui.Transcripción().empty());
+  const auto& vi = a.ParámetrosIniciales;
+  EXPECT_EQ(a.Ventana.TextoProyecto, "Terraplén antiguo, archivo escrito a mano");
+  EXPECT_EQ(a.InformaciónProyecto.IngResponsable, "Ing. Peña");  // Windows-1252 byte 0xF1
+  ASSERT_TRUE(a.NúmeroPuntosTalud == 3 && a.NúmeroTramosFalla == 1 && a.NúmeroCargasPuntuales == 1);
+  EXPECT_EQ(a.TramoFalla.TipoUnión[1], "L");
+  EXPECT_TRUE(a.CargasPuntualesDadas && !a.CargasUniformesDadas);
+  const std::pair<double, double> leídos[] = {{vi.MétodoDeCálculo, 3}, {vi.Multiplicador1, 0.5},
+      {vi.Multiplicador2, -0.25}, {vi.FSInicial, 1.5}, {vi.EsfuerzoInicialCresta, 1e-5},
+      {vi.Radio, 2.5e20}, {vi.CoeficienteSísmicoHorizontal, 0.1}, {vi.NúmeroDovelas, 10},
+      {a.CoordenadasTalud.X[2], 20}, {a.CoordenadasTalud.Y[3], 5.5}, {a.NúmeroEstratos, 1},
+      {a.Estrato.Cohesión[1], 2}, {a.Estrato.Fricción[1], 30}, {a.Estrato.TipoEstrato[1], 1},
+      {a.XEstrato(1, 2), 0}, {a.YEstrato(1, 2), -.5}, {a.CargaPuntual.Py[1], 3},
+      {a.GrietaTracción.EmpujeGrieta, .125}, {a.SumaNormalesEfectivos, -1.5e-3},
+      {a.Anclajes.SeparaciónAnclajesPasivo, 2}};
+  for (const auto& [valor, esperado] : leídos) EXPECT_DOUBLE_EQ(valor, esperado);
 }
 
 // A locale whose decimal sign is a comma, for the streams of the program.
@@ -220,30 +230,9 @@ TEST_F(ArchivoProyecto, QuinceCifrasYPuntoDecimalBajoUnaConfiguraciónEspañola)
 
 // ----- Files written by hand or by older versions
 
-TEST_F(ArchivoProyecto, ArchivoAntiguoConOtrasFormasDeNúmero) {
-  Proyecto p;
-  ASSERT_TRUE(LeerProyecto(p, pruebas::RutaDatos("antiguo_suelo.cod"), ui));
-  EXPECT_TRUE(ui.Transcripción().empty());
-  const auto& pi = p.ParámetrosIniciales;
-  EXPECT_EQ(p.Ventana.TextoProyecto, "Terraplén antiguo, archivo escrito a mano");
-  EXPECT_EQ(p.InformaciónProyecto.IngResponsable, "Ing. Peña");  // Windows-1252 byte 0xF1
-  ASSERT_TRUE(p.NúmeroPuntosTalud == 3 && p.NúmeroTramosFalla == 1 && p.NúmeroCargasPuntuales == 1);
-  EXPECT_EQ(p.TramoFalla.TipoUnión[1], "L");
-  EXPECT_TRUE(p.CargasPuntualesDadas && !p.CargasUniformesDadas);
-  const std::pair<double, double> leídos[] = {{pi.MétodoDeCálculo, 3}, {pi.Multiplicador1, 0.5},
-      {pi.Multiplicador2, -0.25}, {pi.FSInicial, 1.5}, {pi.EsfuerzoInicialCresta, 1e-5},
-      {pi.Radio, 2.5e20}, {pi.CoeficienteSísmicoHorizontal, 0.1}, {pi.NúmeroDovelas, 10},
-      {p.CoordenadasTalud.X[2], 20}, {p.CoordenadasTalud.Y[3], 5.5}, {p.NúmeroEstratos, 1},
-      {p.Estrato.Cohesión[1], 2}, {p.Estrato.Fricción[1], 30}, {p.Estrato.TipoEstrato[1], 1},
-      {p.XEstrato(1, 2), 0}, {p.YEstrato(1, 2), -.5}, {p.CargaPuntual.Py[1], 3},
-      {p.GrietaTracción.EmpujeGrieta, .125}, {p.SumaNormalesEfectivos, -1.5e-3},
-      {p.Anclajes.SeparaciónAnclajesPasivo, 2}};
-  for (const auto& [a, b] : leídos) EXPECT_DOUBLE_EQ(a, b);
-}
-
 // ----- Read-time derivations
 
-TEST_F(ArchivoProyecto, LoQueLaLecturaDeduce) {
+TEST_F(ArchivoProyecto, LoQueLaLecturaDeduceYElEscritorOrdena) {
   Proyecto p = Leído("suelo.cod", false);
   p.ParámetrosIniciales.ReferenciaMomentoX = 30;
   p.ParámetrosIniciales.ReferenciaMomentoY = 32.5;
@@ -265,31 +254,26 @@ TEST_F(ArchivoProyecto, LoQueLaLecturaDeduce) {
   p.TramoFalla.TipoUnión[1] = "L";
   ASSERT_TRUE(GuardarProyecto(p, ruta, ui) && LeerProyecto(q, ruta, ui));
   EXPECT_TRUE(qi.CentroX == 30 && qi.ReferenciaMomentoX == 0 && qi.ReferenciaMomentoY == 0);
-}
-
-// ----- Tidy-ups of the writer that stay in memory
-
-TEST_F(ArchivoProyecto, ElEscritorOrdenaElEstadoAntesDelCuerpo) {
-  Proyecto p = Leído("suelo.cod");
-  auto& pi = p.ParámetrosIniciales;
+  Proyecto e = Leído("suelo.cod");
+  auto& pi = e.ParámetrosIniciales;
   pi.CentroX = 11, pi.CentroY = 12, pi.ReferenciaMomentoX = 21, pi.ReferenciaMomentoY = 22;
-  pruebas::PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{45, 20}, {30, 11}, {15, 10}});
-  pruebas::PonerTramos(p, {{1, 2, "L"}, {2, 3, "C"}});
-  p.Estrato.m_macizo.Redimensionar(2);
-  p.TablaDovelas.m_Base.Redimensionar(3);
-  p.TablaDovelas.EsfuerzoPrincipalMayor.Redimensionar(3);
-  p.TablaDovelas.AlturaEmpuje.Redimensionar(4);
-  p.Roca.PuntosEnsayo.Redimensionar(2);
-  ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+  pruebas::PonerLínea(e.CoordenadasFalla, e.NúmeroPuntosFalla, {{45, 20}, {30, 11}, {15, 10}});
+  pruebas::PonerTramos(e, {{1, 2, "L"}, {2, 3, "C"}});
+  e.Estrato.m_macizo.Redimensionar(2);
+  e.TablaDovelas.m_Base.Redimensionar(3);
+  e.TablaDovelas.EsfuerzoPrincipalMayor.Redimensionar(3);
+  e.TablaDovelas.AlturaEmpuje.Redimensionar(4);
+  e.Roca.PuntosEnsayo.Redimensionar(2);
+  ASSERT_TRUE(GuardarProyecto(e, ruta, ui));
   // Several stretches, the first straight, no instantaneous parameters: no arc of its own; and
   // Bishop with no radius takes its centre from the reference point.
   EXPECT_TRUE(pi.Radio == 0 && pi.CentroX == 21 && pi.CentroY == 22);
   // Calculated soil: the rock columns and the slice columns of rock go; Janbu's heights too.
-  for (long tamaño : {p.Estrato.m_macizo.Tamaño(), p.TablaDovelas.m_Base.Tamaño(),
-                      p.TablaDovelas.EsfuerzoPrincipalMayor.Tamaño(), p.Roca.PuntosEnsayo.Tamaño(),
-                      p.TablaDovelas.AlturaEmpuje.Tamaño()})
+  for (long tamaño : {e.Estrato.m_macizo.Tamaño(), e.TablaDovelas.m_Base.Tamaño(),
+                      e.TablaDovelas.EsfuerzoPrincipalMayor.Tamaño(), e.Roca.PuntosEnsayo.Tamaño(),
+                      e.TablaDovelas.AlturaEmpuje.Tamaño()})
     EXPECT_EQ(tamaño, 0);
-  EXPECT_EQ(p.Estrato.ParámetroPresión[1], 0.3);
+  EXPECT_EQ(e.Estrato.ParámetroPresión[1], 0.3);
   // Calculated rock without instantaneous parameters: soil columns and the base strength go.
   Proyecto r = Leído("roca.cod");
   r.Roca.TipoDeObra = "O";
@@ -304,15 +288,17 @@ TEST_F(ArchivoProyecto, ElEscritorOrdenaElEstadoAntesDelCuerpo) {
   Proyecto f = Leído("suelo.cod", false);
   CargarPanelCoordenadas(f, 3, 1);
   f.Ventana.ListaCoordenadas.push_back({-10, 9});
-  Proyecto q;
-  ASSERT_TRUE(GuardarProyecto(f, ruta, ui) && LeerProyecto(q, ruta, ui));
-  ASSERT_TRUE(f.NúmeroPuntosFreático == 4 && q.NúmeroPuntosFreático == 4);
-  EXPECT_EQ(q.CoordenadasFreático.X[4], -10);
+  Proyecto g;
+  ASSERT_TRUE(GuardarProyecto(f, ruta, ui) && LeerProyecto(g, ruta, ui));
+  ASSERT_TRUE(f.NúmeroPuntosFreático == 4 && g.NúmeroPuntosFreático == 4);
+  EXPECT_EQ(g.CoordenadasFreático.X[4], -10);
 }
+
+// ----- Tidy-ups of the writer that stay in memory
 
 // ----- Refusals and failures
 
-TEST_F(ArchivoProyecto, SinMaterialOEscrituraFallidaNoDejanNada) {
+TEST_F(ArchivoProyecto, SinMaterialEscrituraFallidaYArchivosQueNoSePuedenLeer) {
   Proyecto p = Leído("suelo.cod", false);
   p.TipoDeMaterial.clear();
   EXPECT_FALSE(GuardarProyecto(p, ruta, ui));
@@ -331,9 +317,6 @@ TEST_F(ArchivoProyecto, SinMaterialOEscrituraFallidaNoDejanNada) {
   EXPECT_FALSE(GuardarProyecto(p, ruta, ui));
   EXPECT_TRUE(fs::is_directory(ruta));
   EXPECT_FALSE(fs::exists(ruta + ".tmp~"));
-}
-
-TEST_F(ArchivoProyecto, ArchivosQueNoSePuedenLeer) {
   // Cut inside the first stratum, after two of its three points: head, parameters, surface,
   // failure surface, its stretch and letter, phreatic line, strata line, count and 8 fields.
   const auto líneas = Líneas(pruebas::LeerArchivo(pruebas::RutaDatos("proyecto/suelo.cod")));
@@ -361,7 +344,7 @@ TEST_F(ArchivoProyecto, ArchivosQueNoSePuedenLeer) {
     SCOPED_TRACE(nombre);
     const bool falta = std::string(nombre) == "sin archivo";
     const std::string leer = falta ? carpeta + "/no_existe.cod" : ruta;
-    EscribirBytes(ruta, contenido);
+    std::ofstream(ruta, std::ios::binary) << contenido;
     // The project that was open stays as it was: nothing of the half read reaches it.
     Proyecto q = Leído("suelo.cod", false);
     q.InformaciónProyecto.Empresa = "Otra";

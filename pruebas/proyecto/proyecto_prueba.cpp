@@ -17,7 +17,7 @@
 namespace lomaterra {
 namespace {
 
-TEST(Tabla, FilaCeroExisteYElRestoSeComprueba) {
+TEST(Tabla, FilaCeroExisteYElRestoSeCompruebaYElPanel) {
   Tabla<double> t;
   EXPECT_TRUE(t.Tamaño() == 0 && t[0] == 0.0);
   t.Redimensionar(3);
@@ -35,6 +35,29 @@ TEST(Tabla, FilaCeroExisteYElRestoSeComprueba) {
   d.RedimensionarConservando(3, 5);
   EXPECT_TRUE(d(2, 3) == 4.0 && d(1, 1) == 1.0 && d(3, 5) == 0.0);
   EXPECT_THROW(d(4, 1), FalloAritmético);
+  Proyecto p;
+  p.Ventana.ListaCoordenadas = {{10, 5}, {10, 3}, {10, 2}, {4, 0}};
+  GuardarPanelCoordenadas(p, 1, 1);
+  // A third equal abscissa goes 0.01 below the second: never two equal neighbours.
+  ASSERT_EQ(p.NúmeroPuntosTalud, 4);
+  const double x[] = {10, 9.99, 9.98, 4};
+  for (long i = 1; i <= 4; ++i) EXPECT_DOUBLE_EQ(p.CoordenadasTalud.X[i], x[i - 1]) << i;
+  // The panel keeps the values as entered.
+  EXPECT_EQ(p.Ventana.ListaCoordenadas[1].X, 10.0);
+  CargarPanelCoordenadas(p, 1, 1);
+  EXPECT_DOUBLE_EQ(p.Ventana.ListaCoordenadas[1].X, 9.99);
+
+  p.NúmeroEstratos = 2;
+  p.Ventana.ListaCoordenadas = {{30, 8}, {0, 6}};
+  GuardarPanelCoordenadas(p, 4, 2);
+  p.Ventana.ListaCoordenadas = {{30, 9}, {20, 9}, {0, 7}};
+  GuardarPanelCoordenadas(p, 4, 1);
+  EXPECT_TRUE(p.PuntosEstrato[1] == 3 && p.PuntosEstrato[2] == 2);
+  EXPECT_DOUBLE_EQ(p.YEstrato(2, 2), 6.0);
+  CargarPanelCoordenadas(p, 4, 2);
+  EXPECT_EQ(p.Ventana.EtiquetaCoordenadas, "Coordenadas del estrato");
+  ASSERT_EQ(p.Ventana.ListaCoordenadas.size(), 2u);
+  EXPECT_DOUBLE_EQ(p.Ventana.ListaCoordenadas[0].Y, 8.0);
 }
 
 TEST(Reinicio, BorraLoQueDiceYConservaLoDemás) {
@@ -44,13 +67,11 @@ TEST(Reinicio, BorraLoQueDiceYConservaLoDemás) {
   ASSERT_TRUE(LeerProyecto(p, pruebas::RutaDatos("proyecto/suelo.cod"), ui));
   auto& pi = p.ParámetrosIniciales;
   pi.CentroX = 5;
-  pi.UsaParámetrosInstantáneos = true;
-  pi.LetraUsaParámetrosInstantáneos = "S";
+  pi.UsaParámetrosInstantáneos = true, pi.LetraUsaParámetrosInstantáneos = "S";
   p.EtapaPoros = p.EtapaDovelas = p.PresionesExistentes = p.DesembalseRápido = true;
   p.Malla.NodosDefinidos = p.Sísmico.RegistroDado = true;
   p.DatosGuardados = p.CaracterísticasSueloCompletas = false;
-  p.Ventana.Título = "x.cod - Lomaterra";
-  p.Ventana.TipoPanel = 3;
+  p.Ventana.Título = "x.cod - Lomaterra", p.Ventana.TipoPanel = 3;
   ASSERT_TRUE(pi.VaríaRadio && pi.LetraVaríaRadio == "S" && p.CálculoHecho && p.InformaciónDada);
   ASSERT_TRUE(p.EstratosCaracterizados && p.CargasUniformesDadas && p.NúmeroBordes == 4);
   ASSERT_TRUE(p.GrietaTracción.EmpujeGrieta > 0 && !p.Ventana.TextoProyecto.empty());
@@ -78,32 +99,6 @@ TEST(Reinicio, BorraLoQueDiceYConservaLoDemás) {
   EXPECT_EQ(p.Ventana.EtiquetaCoordenadas, "Coordenadas Talud-Presa-Túnel");
   EXPECT_TRUE(p.Ventana.ListaCoordenadas.empty());
   EXPECT_EQ(p.Ventana.ListaEstrato, std::vector<std::string>{"Seleccione el estrato"});
-}
-
-TEST(Panel, AbscisasIgualesBajanUnCentésimoYLosEstratosVanPorFila) {
-  Proyecto p;
-  p.Ventana.ListaCoordenadas = {{10, 5}, {10, 3}, {10, 2}, {4, 0}};
-  GuardarPanelCoordenadas(p, 1, 1);
-  // A third equal abscissa goes 0.01 below the second: never two equal neighbours.
-  ASSERT_EQ(p.NúmeroPuntosTalud, 4);
-  const double x[] = {10, 9.99, 9.98, 4};
-  for (long i = 1; i <= 4; ++i) EXPECT_DOUBLE_EQ(p.CoordenadasTalud.X[i], x[i - 1]) << i;
-  // The panel keeps the values as entered.
-  EXPECT_EQ(p.Ventana.ListaCoordenadas[1].X, 10.0);
-  CargarPanelCoordenadas(p, 1, 1);
-  EXPECT_DOUBLE_EQ(p.Ventana.ListaCoordenadas[1].X, 9.99);
-
-  p.NúmeroEstratos = 2;
-  p.Ventana.ListaCoordenadas = {{30, 8}, {0, 6}};
-  GuardarPanelCoordenadas(p, 4, 2);
-  p.Ventana.ListaCoordenadas = {{30, 9}, {20, 9}, {0, 7}};
-  GuardarPanelCoordenadas(p, 4, 1);
-  EXPECT_TRUE(p.PuntosEstrato[1] == 3 && p.PuntosEstrato[2] == 2);
-  EXPECT_DOUBLE_EQ(p.YEstrato(2, 2), 6.0);
-  CargarPanelCoordenadas(p, 4, 2);
-  EXPECT_EQ(p.Ventana.EtiquetaCoordenadas, "Coordenadas del estrato");
-  ASSERT_EQ(p.Ventana.ListaCoordenadas.size(), 2u);
-  EXPECT_DOUBLE_EQ(p.Ventana.ListaCoordenadas[0].Y, 8.0);
 }
 
 TEST(Formato, PatronesDeLasPantallasYFormasDeNúmero) {
@@ -176,7 +171,7 @@ class PantallaDePrueba : public Pantalla {
 
 // Answers in order and then the default; a screen with no script closes by its way out (screens
 // with a script are pressed through in the screen tests).
-TEST(InterfazGuionada, RespondeEnOrdenYCierraLaPantallaSinGuion) {
+TEST(InterfazGuionada, RespondeEnOrdenCierraLaPantallaSinGuionYMenús) {
   InterfazGuionada ui("SN", true);
   EXPECT_TRUE(ui.Pregunta("a"));
   EXPECT_FALSE(ui.Pregunta("b", "T"));
@@ -190,9 +185,6 @@ TEST(InterfazGuionada, RespondeEnOrdenYCierraLaPantallaSinGuion) {
   EXPECT_EQ(InterfazGuionada::Línea(t[1]), "[pregunta] T | b -> N");
   EXPECT_EQ(InterfazGuionada::Línea(t[3]), "[mensaje] Título | línea 1\\nlínea 2");
   EXPECT_EQ(InterfazGuionada::Línea(t[4]), "[pantalla] Prueba");
-}
-
-TEST(Comandos, ÁrbolSinNombresRepetidosYConPadresAnteriores) {
   const auto árbol = ÁrbolDeMenús();
   std::set<std::string> vistos;
   std::vector<std::string> arriba;

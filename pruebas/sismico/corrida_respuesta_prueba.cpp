@@ -58,7 +58,7 @@ OpcionesRespuesta Reloj() {  // 30 s for the first step
   return {{}, [t] { return *t += 30; }};
 }
 
-TEST(CorridaRespuesta, PuertasEnOrdenYArchivoDeLaCorrida) {
+TEST(CorridaRespuesta, PuertasArchivoCorteReglaDel75YCancelar) {
   const std::vector<std::pair<std::function<void(Proyecto&)>, std::string>> puertas = {
       {[](Proyecto& p) { p.TipoDeAnálisis = "T"; }, "Ud. no está trabajando con elementos finitos"},
       {[](Proyecto& p) { p.EstratosCaracterizados = false; }, "Seleccione la opción Coordenadas y Luego Caracteríticas de los estratos"},
@@ -115,9 +115,6 @@ TEST(CorridaRespuesta, PuertasEnOrdenYArchivoDeLaCorrida) {
   EXPECT_EQ(b.MatricesEnMemoria, nullptr);  // an opened project holds no other's element matrices
   ASSERT_TRUE(GuardarProyecto(q, dos, ui));
   EXPECT_EQ(pruebas::LeerArchivo(dos), pruebas::LeerArchivo(uno));
-}
-
-TEST(CorridaRespuesta, CorteReglaDel75YCancelar) {
   const char* const k75 = "El 75% de los nodos, tienen desplazamientos mayores a 50 cm. Por tanto, se considera que la masa de suelo o roca, que se está analizando ha perdido totalmente su resistencia al corte.  Para los siguientes registros sísmicos, los esfuerzos y desplazamientos comenzarán a ser muy elevados, indicando el colapsado total. Sin embargo:  ¿Desea que el programa continúe calculando esfuerzos y desplazamientos.?.";
   const char* const kCorte = "Los desplazamientos comienzan a tener valores elevados (mayores a 10^4).  ¿Desea salir del cálculo para ir a la opción de Resultados tabulados o gráficas?.";
   const char* const kFin = "Se finalizó el cálculo de esfuerzos y desplazamientos a partir de la ecuación de movimiemto método paso a paso.";
@@ -126,12 +123,8 @@ TEST(CorridaRespuesta, CorteReglaDel75YCancelar) {
   const char* const kIr = "Vaya a la opción de Resultados tabulados o gráficas.";
   const char* const kAsigna =
       "El programa le asignará a estos desplazamientos valores de -10000 ó +10000";
-  const struct {
-    double k, u;
-    const char* respuestas;
-    std::vector<std::string> tras;
-    bool corte;
-  } casos[] = {
+  using Textos = std::vector<std::string>;
+  const struct { double k, u; const char* guion; Textos tras; bool corte; } casos[] = {
       {1e-6, -1e6, "S", {kCorte, kFin}, true},
       {1e-6, -1e6, "NN", {kCorte, kAsigna, k75, kIr, kFin}, true},
       {1, -392.4, "N", {k75, kIr, kFin}, false},
@@ -139,21 +132,21 @@ TEST(CorridaRespuesta, CorteReglaDel75YCancelar) {
   for (const auto& c : casos) {
     Proyecto p = Listo();
     Diagonal(p, c.k);
-    InterfazGuionada ui(c.respuestas);
+    InterfazGuionada ui(c.guion);
     MétodoPasoAPasoEcMovimientoSinDesacoplar(p, ui);
     std::vector<std::string> t = ui.Textos();
     t.erase(t.begin());  // the notice
-    EXPECT_EQ(t, c.tras) << c.respuestas;
+    EXPECT_EQ(t, c.tras) << c.guion;
     const DatosSísmicos& s = p.Sísmico;
     EXPECT_TRUE(s.PasosCalculados == 1 && s.ResultadosSísmicos && s.CorteAlcanzado == c.corte);
     EXPECT_DOUBLE_EQ(s.DesplazamientoSísmico(1, 3), c.u);
   }
   Proyecto p = Listo();
   Diagonal(p, 100);
-  InterfazGuionada ui;
-  ui.CancelarProgresoTras(0);
+  InterfazGuionada cancela;
+  cancela.CancelarProgresoTras(0);
   p.Malla.FSSísmico = p.Sísmico.FactorSísmicoMínimo = 1.3;  // a factor of a former run
-  MétodoPasoAPasoEcMovimientoSinDesacoplar(p, ui);
+  MétodoPasoAPasoEcMovimientoSinDesacoplar(p, cancela);
   const DatosSísmicos& s = p.Sísmico;
   EXPECT_EQ(p.Malla.FSSísmico + s.FactorSísmicoMínimo, 0);
   // u(2x) = -2 · 9.81 · 0.2 / 100 m = -3.924 cm; u(2y) = 2 · 9.81 · 0.1 / 200 m = 0.981 cm.
@@ -163,7 +156,7 @@ TEST(CorridaRespuesta, CorteReglaDel75YCancelar) {
     EXPECT_NEAR(u, -3.924, 1e-12);
   EXPECT_NEAR(s.DesplazamientoSísmico(1, 4), 0.981, 1e-12);
   EXPECT_TRUE(s.NodoMáximo == 2 && s.PasoMáximo == 1);
-  EXPECT_EQ(ui.Textos().size(), 2u);  // the notice and the estimate, no end message
+  EXPECT_EQ(cancela.Textos().size(), 2u);  // the notice and the estimate, no end message
 }
 
 const char* kVertical = "Debe introducir el valor de la componente de la aceleración vertical del sísmo, incluyendo el cero";
@@ -224,7 +217,7 @@ TEST_F(Registro, UnRegistroMaloNoSeGuardaYUnoBuenoSí) {
   EXPECT_DOUBLE_EQ(g.trazos[0].puntos[1].y, -0.3);
 }
 
-TEST(ArchivoRegistro, SoloUnArchivoCompletoYOrdenadoCambiaElRegistro) {
+TEST(ArchivoRegistro, SoloUnArchivoCompletoYOrdenadoCambiaElRegistroYEstratos) {
   const auto base = std::filesystem::temp_directory_path() / "lomaterra_registro_prueba";
   std::filesystem::create_directories(base / "CarpetaRegistroSismico");
   setenv("LOMATERRA_CARPETA_BASE", base.c_str(), 1);
@@ -246,9 +239,6 @@ TEST(ArchivoRegistro, SoloUnArchivoCompletoYOrdenadoCambiaElRegistro) {
     EXPECT_EQ(hallado, conError) << c.contenido;
   }
   unsetenv("LOMATERRA_CARPETA_BASE");
-}
-
-TEST(EstratosSísmicos, ModificarYAceptarCompruebanEnSuOrden) {
   Proyecto p;
   p.NúmeroEstratos = 1;
   p.Estrato.Fricción.Redimensionar(1);
@@ -260,7 +250,7 @@ TEST(EstratosSísmicos, ModificarYAceptarCompruebanEnSuOrden) {
   const char* cajas[] = {"TextoVelocidadOndaDeCorte", "TextoDistorsiónCortante", "TextoRelaciónDeVacíos",
                          "TextoResistenciaNoDrenada", "TextoIndicePlástico",
                          "TextoRelaciónDeSobreconsolidación", "TextoEstratoDeterminateEnLaEstabilidad"};
-  const struct { std::vector<const char*> v; const char* mensaje; } casos[] = {
+  const struct { std::vector<const char*> v; const char* mensaje; } filas[] = {
       {{"x", "x", "x", "x", "x", "x", "x"}, "Debe dar el valor de la velocidad de la onda de corte. Puede incluir el cero"},
       {{"200", "x", "x", "x", "x", "x", "x"}, "Debe dar un valor para la distorsión cortante"},
       {{"200", "0", "x", "x", "x", "x", "x"}, "El valor de la distorsión cortante debe ser mayor a cero."},
@@ -271,7 +261,7 @@ TEST(EstratosSísmicos, ModificarYAceptarCompruebanEnSuOrden) {
       {{"200", "1e-6", "0.6", "5", "10", "0.5", "x"}, "Ud. Está diciendo que el suelo es plástico, entonces: OCR =1 para arcillas normalmente consolidadas y OCR > 1 para arcillas sobreconsolidadas."},
       {{"200", "1e-6", "0.6", "5", "0", "2", "x"}, "Ud. está diciendo que el suelo no es plástico y por consiguiente el OCR debe ser cero, al menos que ud. modifique los datos"},
       {{"200", "1e-6", "0.6", "5", "0", "0", "x"}, "Para el tipo de estrato debe introducir  'SI ó NO para indicar el material es o no es determinante en la estabilidad' "}};
-  for (const auto& c : casos) {
+  for (const auto& c : filas) {
     for (int i = 0; i < 7; ++i) f.texto(cajas[i]) = c.v[static_cast<std::size_t>(i)];
     f.Pulsar("Modificar", ui);
     EXPECT_EQ(ui.Textos().back(), c.mensaje);

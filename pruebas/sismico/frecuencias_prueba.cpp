@@ -98,16 +98,15 @@ TEST(InversaExplícita, PorBloquesIgualALaSimplePivoteCeroYRedondeoAOnceDecimale
 // Answers and the transcript of one run.
 struct Corrida {
   FormasModales r;
-  bool hecho = false;
+  bool hecho;
   std::vector<std::string> textos;
 };
 Corrida Correr(const std::vector<double>& K, const std::vector<double>& M, long n,
                const std::vector<double>& w, const std::string& respuestas) {
   InterfazGuionada ui(respuestas);
-  Corrida c;
-  c.hecho = CalcularFormasModales(K, M, n, w, c.r, ui);
-  c.textos = ui.Textos();
-  return c;
+  FormasModales r;
+  const bool hecho = CalcularFormasModales(K, M, n, w, r, ui);
+  return {r, hecho, ui.Textos()};
 }
 
 // A chain of n masses and springs fixed at one end.
@@ -121,26 +120,7 @@ void Cadena(long n, std::vector<double>& K, std::vector<double>& M) {
   }
 }
 
-TEST(FormasModales, DosGradosResorteYMasa) {
-  // k1 = 200, k2 = 100, m1 = 2, m2 = 1: det(K - λM) = 2λ² - 500λ + 20000 = 0 gives λ = 50 and
-  // 200, modes (1, 2) and (1, -1).
-  const std::vector<double> K = {300, -100, -100, 100}, M = {2, 0, 0, 1};
-  const Corrida c = Correr(K, M, 2, {6, 13}, "S");
-  ASSERT_TRUE(c.hecho);
-  ASSERT_EQ(c.textos.size(), 1u);
-  EXPECT_EQ(c.textos[0].rfind("El número indicado al final de este mensaje, corresponde al tiempo en minutos que tardará el programa en estimar los valores de los vectores de forma modales correspondiente de todos los modos de vibración.", 0), 0u);
-  EXPECT_EQ(c.r.modosCalculados, 2);
-  // The shape comes from one correction around x = 1 that leaves only what the rounding left:
-  // close to the closed form, not equal to it.
-  EXPECT_NEAR(c.r.frecuencias[0], std::sqrt(50.0), 0.03 * std::sqrt(50.0));
-  EXPECT_NEAR(c.r.frecuencias[1], std::sqrt(200.0), 0.03 * std::sqrt(200.0));
-  const auto& f = c.r.formas;  // f[i * 2 + m]
-  EXPECT_NEAR(f[2] / f[0], 2.0, 0.1);
-  EXPECT_NEAR(f[3] / f[1], -1.0, 0.2);
-  for (int m = 0; m < 2; ++m) EXPECT_NEAR(2 * f[m] * f[m] + f[2 + m] * f[2 + m], 1.0, 1e-12);
-}
-
-TEST(FormasModales, TopesOrdenDiagonalCeroYPivoteCero) {
+TEST(FormasModales, TopesOrdenDiagonalCeroPivoteCeroYDosGrados) {
   std::vector<double> K, M;
   struct Caso { long n; const char* respuestas; int modos; std::size_t preguntas; };
   for (const Caso& caso : {Caso{3, "N", 2, 1}, Caso{102, "NS", 100, 2}, Caso{102, "NN", 2, 2}}) {
@@ -177,6 +157,24 @@ TEST(FormasModales, TopesOrdenDiagonalCeroYPivoteCero) {
   InterfazGuionada ui;
   CálculoDeLoVectoresDeFormaModales(p, ui);
   EXPECT_EQ(ui.Textos(), std::vector<std::string>{"Vaya a la opción: Determinación de las frecuencias naturales, para estimar los valores  de las mismas y asi poder hallar los vectores de forma modales"});
+  // k1 = 200, k2 = 100, m1 = 2, m2 = 1: det(K - λM) = 2λ² - 500λ + 20000 = 0 gives λ = 50 and
+  // 200, modes (1, 2) and (1, -1).
+  const Corrida d = Correr({300, -100, -100, 100}, {2, 0, 0, 1}, 2, {6, 13}, "S");
+  ASSERT_TRUE(d.hecho);
+  ASSERT_EQ(d.textos.size(), 1u);
+  EXPECT_EQ(d.textos[0].rfind(
+      "El número indicado al final de este mensaje, corresponde al tiempo en minutos que tardará "
+      "el programa en estimar los valores de los vectores de forma modales correspondiente de "
+      "todos los modos de vibración.", 0), 0u);
+  EXPECT_EQ(d.r.modosCalculados, 2);
+  // The shape comes from one correction around x = 1 that leaves only what the rounding left:
+  // close to the closed form, not equal to it.
+  EXPECT_NEAR(d.r.frecuencias[0], std::sqrt(50.0), 0.03 * std::sqrt(50.0));
+  EXPECT_NEAR(d.r.frecuencias[1], std::sqrt(200.0), 0.03 * std::sqrt(200.0));
+  const auto& f = d.r.formas;  // f[i * 2 + m]
+  EXPECT_NEAR(f[2] / f[0], 2.0, 0.1);
+  EXPECT_NEAR(f[3] / f[1], -1.0, 0.2);
+  for (int m = 0; m < 2; ++m) EXPECT_NEAR(2 * f[m] * f[m] + f[2 + m] * f[2 + m], 1.0, 1e-12);
 }
 
 TEST(Amortiguamiento, ConstantesDeRayleighAMano) {
@@ -210,7 +208,7 @@ void Modos(Proyecto& p, long n, int calculados) {
   s.ModosCalculados = static_cast<Entero>(calculados);
 }
 
-TEST(PantallaFrecuencias, ElÚltimoModoCalculadoNoSePuedeElegir) {
+TEST(PantallaFrecuencias, ElÚltimoModoNoSePuedeElegirYListaInicial) {
   const struct { long n; int calculados; const char* modo; double queda; const char* aviso; } casos[] = {
       {5, 5, "3", 3, nullptr},
       {5, 5, "5", 4, "Ud ha indicado  como  Modo de Cálculo,  el correspondiente al último"},
@@ -236,9 +234,6 @@ TEST(PantallaFrecuencias, ElÚltimoModoCalculadoNoSePuedeElegir) {
       EXPECT_NE(ui.Textos()[0].find(c.aviso), std::string::npos) << ui.Textos()[0];
     }
   }
-}
-
-TEST(PantallaFrecuencias, ListaInicialYModosDeducidosDeUnArchivo) {
   Proyecto p;
   auto& s = p.Sísmico;
   s.GradosDeLibertadEstimados = true;

@@ -39,7 +39,7 @@ void SumarTriánguloCerrado(const std::vector<std::array<double, 2>>& xy, std::a
         for (int q = 0; q < 3; ++q) K[static_cast<std::size_t>((grado(a) - 1) * nd + grado(b) - 1)] += B[r][a] * D[r][q] * B[q][b] * A;
 }
 
-TEST(CondensaciónSísmica, MasaYRigidezCondensadaAManoYNumeraciónEnCualquierOrden) {
+TEST(CondensaciónSísmica, MasaYRigidezAManoNumeraciónYCargasDeUnTriángulo) {
   const double E = 2000, nu = 0.3, gamma = 1.8;
   const std::vector<std::array<double, 2>> xy = {{0, 0}, {4, 0.3}, {4.2, 3}, {0.1, 2.8}};
   Proyecto p;
@@ -90,21 +90,19 @@ TEST(CondensaciónSísmica, MasaYRigidezCondensadaAManoYNumeraciónEnCualquierOr
   EXPECT_EQ(t.Libres, libresQ);
   const double módulo[] = {1000, 1000, 3000, 1000, 1000, 3000, 3000};
   for (long i = 1; i <= 7; ++i) EXPECT_EQ(q.Sísmico.MóduloGrado.Leer(i), módulo[i - 1]) << i;
-}
-
-TEST(CargasSísmicas, UnTriánguloEnLaCaraDeAguasArriba) {
   // Face (10, 0)-(0, 10) read as y = (10 - x)·f, f = 10/10.01 by the 0.01 of the reading rule;
   // reservoir at 12; moist 1.8, saturated 2.0, Ko 0.5. Triangle B(6, 3.99), A(2, 7.99), C(5, 3).
-  Proyecto p;
-  pruebas::ProyectoUnEstrato(p, 10, 0, 3000, 0.3, 1.8);
-  pruebas::PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{10, 0}, {0, 10}});
-  pruebas::PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{10, 12}, {0, 12}});
-  p.Estrato.PesoUnitarioSaturado[1] = 2.0, p.Estrato.CoeficienteKo[1] = 0.5;
-  pruebas::Malla(p, {{6, 3.99}, {2, 7.99}, {5, 3}}, {{{1, 2, 3, 1}}});  // nodes 1 (B), 2 (A), 3 (C)
-  p.Malla.AnálisisPresas = true;
-  InterfazGuionada ui("S", true);  // the pore pressure from the phreatic line
-  MatricesSísmicas s;
-  ASSERT_TRUE(ElementoTriangularSismico(p, ui, s));
+  Proyecto cara;
+  pruebas::ProyectoUnEstrato(cara, 10, 0, 3000, 0.3, 1.8);
+  pruebas::PonerLínea(cara.CoordenadasTalud, cara.NúmeroPuntosTalud, {{10, 0}, {0, 10}});
+  pruebas::PonerLínea(cara.CoordenadasFreático, cara.NúmeroPuntosFreático, {{10, 12}, {0, 12}});
+  cara.Estrato.PesoUnitarioSaturado[1] = 2.0, cara.Estrato.CoeficienteKo[1] = 0.5;
+  // Nodes 1 (B), 2 (A), 3 (C).
+  pruebas::Malla(cara, {{6, 3.99}, {2, 7.99}, {5, 3}}, {{{1, 2, 3, 1}}});
+  cara.Malla.AnálisisPresas = true;
+  InterfazGuionada uc("S", true);  // the pore pressure from the phreatic line
+  MatricesSísmicas sc;
+  ASSERT_TRUE(ElementoTriangularSismico(cara, uc, sc));
   // Centre (13/3, yc) under the face at ys = (17/3)·f: u = 12 - yc; column (ys - yc)·2.0 plus the
   // water 12 - ys, so sv = ys - yc on every node as (Ko sv, sv). Pore water, spans dy = 4.99, dx = 4:
   // (4.99 u/3, 4 u/3). Reservoir on B-A (first two nodes under the face): heads (12 - h)²/(12 - y),
@@ -113,9 +111,9 @@ TEST(CargasSísmicas, UnTriánguloEnLaCaraDeAguasArriba) {
   const double p_ = ((12 - 4 * f) * (12 - 4 * f) / (12 - 3.99) + (12 - 8 * f) * (12 - 8 * f) / (12 - 7.99)) / 2;
   for (std::size_t n = 1; n <= 3; ++n)
     for (std::size_t d = 0; d < 2; ++d) {
-      EXPECT_NEAR(s.EsfuerzoEfectivoNodal[2 * n - 1 + d], d ? sv : 0.5 * sv, 1e-9) << n;
-      EXPECT_NEAR(s.CargaAguaPoros[2 * n - 1 + d], (d ? 4 : 4.99) * u / 3, 1e-9) << n;
-      EXPECT_NEAR(s.CargaEmbalse[2 * n - 1 + d], n < 3 ? -2 * p_ : 0.0, 1e-9) << n;
+      EXPECT_NEAR(sc.EsfuerzoEfectivoNodal[2 * n - 1 + d], d ? sv : 0.5 * sv, 1e-9) << n;
+      EXPECT_NEAR(sc.CargaAguaPoros[2 * n - 1 + d], (d ? 4 : 4.99) * u / 3, 1e-9) << n;
+      EXPECT_NEAR(sc.CargaEmbalse[2 * n - 1 + d], n < 3 ? -2 * p_ : 0.0, 1e-9) << n;
     }
 }
 
@@ -123,27 +121,7 @@ Proyecto Presa(Proyecto p = {}, InterfazGuionada ui = {}) {  // an empty project
   return LeerProyecto(p, pruebas::RutaEjemplo("presa_sismica.cod"), ui) ? p : Proyecto{};
 }
 
-TEST(GradosDeLibertadPuertas, CadaPuertaAntesQueLasSiguientes) {
-  // Case k breaks gate k and every later one: the message of gate k must come first.
-  const std::pair<void (*)(Proyecto&), const char*> puertas[] = {
-      {[](Proyecto& p) { p.TipoDeAnálisis = "T"; }, "Ud. no está trabajando con elementos finitos"},
-      {[](Proyecto& p) { p.Malla.RestriccionesTrasRefinar = false; }, "Vaya a la opción Nodos con restricción"},
-      {[](Proyecto& p) { p.Sísmico.RegistroDado = false; }, "Ud hizo click en la sesión 'Estimación de los grados de libertad', lo cual es requerido para un análisis sísmico. Sin embargo no ha dado al programa ninguna información de registro"},
-      {[](Proyecto& p) { p.Sísmico.ParámetrosSísmicosDados = false; }, "Ud hizo click en la sesión 'Estimación de los grados de libertad', lo cual es requerido para un análisis sísmico. Sin embargo no ha dado al programa ninguna información de los parámteros"},
-      {[](Proyecto& p) { p.Malla.ConfirmarElementos = false; }, "Confirme primero el número de elementos."},
-      {[](Proyecto& p) { p.Sísmico.GradosDeLibertadEstimados = true; }, "Ya se determinó los grados de libertad. ¿Desea volver hacerlo?."}};
-  for (std::size_t k = 0; k < std::size(puertas); ++k) {
-    Proyecto p = Presa();
-    p.Malla.ConfirmarElementos = true;
-    for (std::size_t j = k; j < std::size(puertas); ++j) puertas[j].first(p);
-    InterfazGuionada ui("N");
-    GradosDeLibertad(p, ui);
-    ASSERT_EQ(ui.Transcripción().size(), 1u) << k;
-    EXPECT_EQ(ui.Transcripción()[0].texto.rfind(puertas[k].second, 0), 0u) << ui.Transcripción()[0].texto;
-  }
-}
-
-TEST(PresaSísmica, HastaLosModosIdaYVueltaYFigura) {
+TEST(PresaSísmica, PuertasDeLosGradosYHastaLosModosIdaYVueltaYFigura) {
   Proyecto p = Presa();
   InterfazGuionada ui("NSNNSS", true);
   const auto árbol = ÁrbolDeMenús();
@@ -170,6 +148,23 @@ TEST(PresaSísmica, HastaLosModosIdaYVueltaYFigura) {
   // After a response run the condensation lists the x and y degrees: node 2 first, node 60 last.
   ASSERT_TRUE((s.ResultadosSísmicos = true) && CondensarMatrices(p, no, MatricesSísmicasEnMemoria(p)));
   EXPECT_TRUE(s.NúmeroGradosX == 50 && s.NúmeroGradosY == 50 && s.ListaGradosX[1] == 3 && s.ListaGradosY[50] == 120);
+  // Case k breaks gate k and every later one: the message of gate k must come first.
+  const std::pair<void (*)(Proyecto&), const char*> puertas[] = {
+      {[](Proyecto& p) { p.TipoDeAnálisis = "T"; }, "Ud. no está trabajando con elementos finitos"},
+      {[](Proyecto& p) { p.Malla.RestriccionesTrasRefinar = false; }, "Vaya a la opción Nodos con restricción"},
+      {[](Proyecto& p) { p.Sísmico.RegistroDado = false; }, "Ud hizo click en la sesión 'Estimación de los grados de libertad', lo cual es requerido para un análisis sísmico. Sin embargo no ha dado al programa ninguna información de registro"},
+      {[](Proyecto& p) { p.Sísmico.ParámetrosSísmicosDados = false; }, "Ud hizo click en la sesión 'Estimación de los grados de libertad', lo cual es requerido para un análisis sísmico. Sin embargo no ha dado al programa ninguna información de los parámteros"},
+      {[](Proyecto& p) { p.Malla.ConfirmarElementos = false; }, "Confirme primero el número de elementos."},
+      {[](Proyecto& p) { p.Sísmico.GradosDeLibertadEstimados = true; }, "Ya se determinó los grados de libertad. ¿Desea volver hacerlo?."}};
+  for (std::size_t k = 0; k < std::size(puertas); ++k) {
+    Proyecto p = Presa();
+    p.Malla.ConfirmarElementos = true;
+    for (std::size_t j = k; j < std::size(puertas); ++j) puertas[j].first(p);
+    InterfazGuionada ui("N");
+    GradosDeLibertad(p, ui);
+    ASSERT_EQ(ui.Transcripción().size(), 1u) << k;
+    EXPECT_EQ(ui.Transcripción()[0].texto.rfind(puertas[k].second, 0), 0u) << ui.Transcripción()[0].texto;
+  }
 }
 
 }  // namespace
