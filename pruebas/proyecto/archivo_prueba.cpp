@@ -169,8 +169,10 @@ TEST_F(ArchivoProyecto, DescripciónComillasAcentosYArchivoAntiguo) {
   // Only the rows counted; rows beyond the table read 0.
   EXPECT_TRUE(MayorDeLista(t, 3) == 7 && MayorDeLista(t, 0) == 0 && MayorDeLista(t, 6) == 9);
   Proyecto a;
+  // A file written by hand or by an older version, with other forms of number: read in silence
+  // (the one line of the transcript is the question about the quotes above).
   ASSERT_TRUE(LeerProyecto(a, pruebas::RutaDatos("antiguo_suelo.cod"), ui));
-  EXPECT_TRUE(ui.Transcripción().empty());
+  EXPECT_EQ(ui.Transcripción().size(), 1u);
   const auto& vi = a.ParámetrosIniciales;
   EXPECT_EQ(a.Ventana.TextoProyecto, "Terraplén antiguo, archivo escrito a mano");
   EXPECT_EQ(a.InformaciónProyecto.IngResponsable, "Ing. Peña");  // Windows-1252 byte 0xF1
