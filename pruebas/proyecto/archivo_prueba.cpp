@@ -315,10 +315,9 @@ TEST_F(ArchivoProyecto, SinMaterialEscrituraFallidaYArchivosQueNoSePuedenLeer) {
   EXPECT_EQ(ui.Transcripción()[0].título, "Guardar proyecto");
   EXPECT_NE(ui.Transcripción()[0].texto.find("No se pudo guardar el proyecto"), std::string::npos);
   // A folder in the place of the file: the old content (none) stays and nothing is left over.
-  fs::create_directories(ruta);
-  EXPECT_FALSE(GuardarProyecto(p, ruta, ui));
-  EXPECT_TRUE(fs::is_directory(ruta));
-  EXPECT_FALSE(fs::exists(ruta + ".tmp~"));
+  EXPECT_FALSE(GuardarProyecto(p, carpeta, ui));
+  EXPECT_TRUE(fs::is_directory(carpeta));
+  EXPECT_FALSE(fs::exists(carpeta + ".tmp~"));
   // Cut inside the first stratum, after two of its three points: head, parameters, surface,
   // failure surface, its stretch and letter, phreatic line, strata line, count and 8 fields.
   const auto líneas = Líneas(pruebas::LeerArchivo(pruebas::RutaDatos("proyecto/suelo.cod")));
