@@ -164,6 +164,12 @@ TEST_F(Lotes, TranscripciónPreguntasYMensajes) {
   ASSERT_GE(preguntas.size(), 2u);
   EXPECT_EQ(preguntas[0], kDesembalse + "S");
   EXPECT_EQ(preguntas[1], kDesembalse + "S");
+  // Keeping the values of the saved pass with instantaneous parameters reuses them.
+  const Corrida mismos = Lote({RutaEjemplo("instantaneos_tras_janbu.cod"),
+                               "CálculoParámetrosInstantáneos", "--respuestas", "SSSNSS"});
+  EXPECT_EQ(mismos.estado, 0) << mismos.errores;
+  EXPECT_NE(mismos.salida.find("Se utilizan los parámetros de corte ya obtenidos"),
+            std::string::npos);
 
   // Another method chosen: a message, not a fault.
   const std::string bishop =

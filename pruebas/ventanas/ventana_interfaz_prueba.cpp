@@ -62,7 +62,6 @@ TEST(FiltroQtPrueba, ConvierteLosFiltrosYEligeElIndicado) {
 TEST(InterfazPrueba, LasCajasLlevanSuTítuloYUnaPreguntaRespondeSíONoSegúnElBotón) {
   pruebas::Aplicación();
   EXPECT_EQ(InterfazQt::TítuloDeCaja(""), "Lomaterra");
-  EXPECT_EQ(InterfazQt::TítuloDeCaja("Información requerida"), "Información requerida");
   auto pregunta = CrearCaja("¿Desea recalcular?", "", true, nullptr);
   EXPECT_EQ(pregunta->windowTitle(), "Lomaterra");
   EXPECT_EQ(pregunta->text(), "¿Desea recalcular?");

@@ -84,7 +84,6 @@ TEST_F(VentanaPrueba, UnProyectoNuevoElDeMuestraYUnEjemploAbierto) {
   EXPECT_FALSE(p.DatosGuardados);
   ProyectoDeMuestra(p);
   ventana.Refrescar();
-  EXPECT_EQ(ventana.objectName(), "Form1");
   EXPECT_EQ(ventana.windowTitle(), "talud_de_muestra.cod - Lomaterra");
   EXPECT_EQ(S(Hijo<QPlainTextEdit>(ventana, "TextoProyecto")->toPlainText()),
             p.Ventana.TextoProyecto);
