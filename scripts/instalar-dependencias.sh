@@ -3,7 +3,7 @@
 set -euo pipefail
 paquetes=(
   build-essential cmake ninja-build pkg-config
-  googletest libgtest-dev libgmock-dev libbenchmark-dev
+  googletest libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev
   qt6-base-dev qt6-base-dev-tools libqt6svg6-dev qt6-charts-dev libqt6opengl6-dev
   qt6-translations-l10n
   libgl1-mesa-dev libxkbcommon-dev

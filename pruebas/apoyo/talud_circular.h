@@ -89,15 +89,7 @@ struct TaludCircular {
 // The referee problem EX1(a) of ACADS: c' = 3 kPa, φ' = 19.6°, γ = 20 kN/m3, in tons (÷ 9.81),
 // ground (70,35)-(50,35)-(30,25)-(20,25), critical circle centre (29.7, 53.2), radius 28.2 m.
 inline TaludCircular AcadsEx1a() {
-  TaludCircular t;
-  t.suelo = {{70, 35}, {50, 35}, {30, 25}, {20, 25}};
-  t.xc = 29.7;
-  t.yc = 53.2;
-  t.R = 28.2;
-  t.c = 3.0 / 9.81;
-  t.φ = 19.6;
-  t.γ = 20.0 / 9.81;
-  return t;
+  return {{{70, 35}, {50, 35}, {30, 25}, {20, 25}}, 29.7, 53.2, 28.2, 3 / 9.81, 19.6, 20 / 9.81};
 }
 
 // A project ready for method 1 in soil on the given slope: selectors, parameters and slices.

@@ -1,4 +1,5 @@
-// lomaterra-lote run as a program from the tests: its exit status, its output and its JSON summary.
+// lomaterra-lote run as a program from the tests: its exit status, its output and its JSON
+// summary, read by a strict JSON reader (no NaN, no trailing commas, no leading zeros).
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,10 +11,13 @@
 #include <string>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
 #include "apoyo/apoyo.h"
-#include "lote/json_prueba.h"
 
 namespace lomaterra::pruebas {
+
+using Json = nlohmann::json;
 
 struct Corrida {
   int estado = -1;
@@ -44,26 +48,20 @@ inline Corrida Lote(const std::vector<std::string>& argumentos) {
 }
 
 // Commands and options (split at the blanks) on a sample project with the JSON summary, which
-// must read as JSON.
-inline ValorJson LoteJson(const std::string& ejemplo, const std::string& órdenes) {
+// must read as JSON; the run itself into `corrida` when given.
+inline Json LoteJson(const std::string& ejemplo, const std::string& órdenes,
+                     Corrida* corrida = nullptr) {
   const std::string json = CarpetaTemporal() + "/salida.json";
   std::vector<std::string> argumentos = {RutaEjemplo(ejemplo)};
   std::istringstream palabras(órdenes);
   for (std::string w; palabras >> w;) argumentos.push_back(w);
   argumentos.insert(argumentos.end(), {"--json", json});
   const Corrida c = Lote(argumentos);
-  EXPECT_EQ(c.estado, 0) << ejemplo << " " << órdenes;
-  ValorJson v;
-  std::string error;
-  EXPECT_TRUE(LeerJson(LeerArchivo(json), v, error)) << error;
+  EXPECT_EQ(c.estado, 0) << ejemplo << " " << órdenes << "\n" << c.errores;
+  const Json v = Json::parse(LeerArchivo(json), nullptr, false);
+  EXPECT_FALSE(v.is_discarded()) << "no es JSON: " << json;
+  if (corrida) *corrida = c;
   return v;
-}
-
-// The transcript lines that a JSON summary carries; empty when it has none.
-inline std::vector<std::string> Transcrito(const ValorJson& v) {
-  std::vector<std::string> r;
-  if (const ValorJson* t = v.Campo("transcripción")) for (const auto& l : t->lista) r.push_back(l.texto);
-  return r;
 }
 
 }  // namespace lomaterra::pruebas

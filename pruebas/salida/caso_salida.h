@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "apoyo/proyectos.h"
+#include "equilibrio/dovelas_apoyo.h"
 #include "proyecto/proyecto.h"
 
 namespace lomaterra::pruebas {
@@ -25,18 +26,7 @@ inline Proyecto CasoTresDovelas() {
   PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{25, 10}, {15, 2}, {8, 0}});
   PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{30, 4}, {15, 1.5}, {0, 0}});
   PonerTramos(p, {{1, 3, "L"}});
-  p.NúmeroEstratos = 1;
-  p.PuntosEstrato.Redimensionar(1);
-  p.PuntosEstrato[1] = 2;
-  p.XEstrato.Redimensionar(1, 2);
-  p.YEstrato.Redimensionar(1, 2);
-  p.XEstrato(1, 1) = 30, p.YEstrato(1, 1) = -5, p.XEstrato(1, 2) = 0, p.YEstrato(1, 2) = -5;
-  p.Estrato.RedimensionarConservando(1);
-  p.Estrato.Cohesión[1] = 1.5;
-  p.Estrato.Fricción[1] = 30;
-  p.Estrato.PesoUnitarioHúmedo[1] = 1.8;
-  p.Estrato.PesoUnitarioSaturado[1] = 2.0;
-  p.EstratosCaracterizados = true;
+  AñadirEstrato(p, {{30, -5}, {0, -5}}, {.cohesión = 1.5, .fricción = 30});
   p.NúmeroEstratosCaracterizados = 1;
   CargasUniformes(p, {{21, 28, 0, 2}});
   p.CargaUniforme.yo[1] = p.CargaUniforme.yf[1] = 10;
