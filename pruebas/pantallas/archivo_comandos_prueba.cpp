@@ -4,10 +4,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
 
 #include "apoyo/apoyo.h"
 #include "pantallas/comandos_archivo.h"

@@ -1,7 +1,9 @@
-// What the screen tests share: boxes filled by name, a button pressed, the messages it gave.
+// What the screen tests share: boxes filled by name, a button pressed, the messages it gave;
+// the standard headers of their tables.
 #pragma once
 
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 

@@ -2,10 +2,6 @@
 // the order of the checks, word for word, and what Aceptar stores.
 #include <gtest/gtest.h>
 
-#include <string>
-#include <tuple>
-#include <vector>
-
 #include "apoyo/proyectos.h"
 #include "equilibrio/constantes.h"
 #include "pantallas/comun_pantallas.h"
@@ -379,8 +375,8 @@ TEST_F(ConstantesElementos, ComprobacionesEnOrden) {
        "Debe introducir un número para la cantidad de dovelas a tomar en consideración en el "
        "análisis"},
       {"F", "TextoRadioCírculoFalla", "5.5",  // half the chord is 5.831
-       "El radio del arco del círculo debe ser mayor que el valor de la mitad de la cuerda, la cual "
-       "está definida por los puntos 1 y 2 de la superficie potencial de falla."},
+       "El radio del arco del círculo debe ser mayor que el valor de la mitad de la cuerda, la "
+       "cual está definida por los puntos 1 y 2 de la superficie potencial de falla."},
   };
   for (const auto& [análisis, campo, valor, texto] : casos) {
     SetUp();
@@ -395,7 +391,8 @@ TEST_F(ConstantesElementos, GuardaMétodoFactorDovelasYRadio) {
   pantalla.Pulsar("BotónAceptar", ui);
   EXPECT_TRUE(pantalla.cerrada && p.ParámetrosInicialesDados);
   const auto& pi = p.ParámetrosIniciales;
-  EXPECT_EQ((std::vector<double>{1.0 * pi.MétodoDeCálculo, pi.FSInicial, pi.NúmeroDovelas, pi.Radio}),
+  EXPECT_EQ((std::vector<double>{1.0 * pi.MétodoDeCálculo, pi.FSInicial, pi.NúmeroDovelas,
+                                 pi.Radio}),
             (std::vector<double>{4, 1.3, 20, 8}));
   EXPECT_FALSE(p.DatosGuardados);
   // On a surface that is not an arc it only warns.

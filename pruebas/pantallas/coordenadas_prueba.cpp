@@ -6,10 +6,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
 
 #include "apoyo/apoyo.h"
 #include "pantallas/archivo_lateral.h"
@@ -306,7 +302,8 @@ TEST_F(Coordenadas, EliminarEstrato) {
   EXPECT_EQ(p.NúmeroEstratos, 2);
   p.TipoDeMaterial = "";
   MenúEliminarEstrato(p, ui);  // no material yet: refused after the question
-  const std::string pregunta = "[pregunta]  | Desea eleminar el estrato que se muestra en pantalla?";
+  const std::string pregunta =
+      "[pregunta]  | Desea eleminar el estrato que se muestra en pantalla?";
   EXPECT_EQ(Renglones(ui),
             (Textos{"[mensaje]  | Seleccione la opción coordenadas estrato", pregunta + " -> N",
                     pregunta + " -> S",
@@ -406,6 +403,12 @@ TEST_F(ArchivoLateral, LecturaCompletaConUnNivelFreáticoDeCeroPuntos) {
   EXPECT_EQ(p.Ventana.TipoPanel, 1);
   EXPECT_EQ(DelPanel(), (Puntos{{40, 10}, {20, 10}, {0, 0}}));
   EXPECT_FALSE(p.DatosGuardados);
+  // Without a base folder given the folder hangs from the user's home.
+  ::unsetenv("LOMATERRA_CARPETA_BASE");
+  const char* casa = std::getenv("HOME");
+  if (casa != nullptr && *casa != '\0')
+    EXPECT_EQ(RutaArchivoTaludEstratosNF(),
+              std::string(casa) + "/CarpetaTaludEstratoNF/taludestratosNF.cod");
 }
 
 TEST_F(ArchivoLateral, ConTaludYaDadoPreguntaPrimeroYSinArchivoNadaCambia) {

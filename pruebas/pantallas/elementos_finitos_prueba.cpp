@@ -5,7 +5,6 @@
 
 #include <array>
 #include <fstream>
-#include <tuple>
 
 #include "apoyo/apoyo.h"
 #include "apoyo/sismo_apoyo.h"
@@ -38,23 +37,25 @@ TEST(PantallaNodos, ComprobacionesYOrden) {
   PantallaNodos s(p);
   InterfazGuionada ui;
   pruebas::Activar(s, ui);
-  const std::array<const char*, 5> casos[] = {{"a", "1", "1", "1", "Debe introducir un número entero"},
-                                               {"1", "", "1", "1", "Debe introducir un número en x"},
-                                               {"1", "1", "b", "1", "Debe introducir un número en y"},
-                                               {"1", "1", "1", "", "Debe introducir un número en z"}};
+  const std::array<const char*, 5> casos[] = {
+      {"a", "1", "1", "1", "Debe introducir un número entero"},
+      {"1", "", "1", "1", "Debe introducir un número en x"},
+      {"1", "1", "b", "1", "Debe introducir un número en y"},
+      {"1", "1", "1", "", "Debe introducir un número en z"}};
   for (const auto& [nodo, x, y, z, mensaje] : casos)
-    EXPECT_EQ(Pulsar(s, {{"Texto_Nodo", nodo}, {"TextoX_Nodo", x}, {"TextoY_Nodo", y}, {"TextoZ_Nodo", z}}, "BotónAgregar"),
+    EXPECT_EQ(Pulsar(s, {{"Texto_Nodo", nodo}, {"TextoX_Nodo", x}, {"TextoY_Nodo", y},
+                         {"TextoZ_Nodo", z}}, "BotónAgregar"),
               Textos{mensaje});
   // 2, 1, 4 in any order: kept descending; the second may repeat the first; the third may not.
   for (const char* n : {"2", "1", "4"})
     EXPECT_TRUE(Pulsar(s, {{"Texto_Nodo", n}, {"TextoX_Nodo", "1"}, {"TextoY_Nodo", "1"}, {"TextoZ_Nodo", "0"}}, "BotónAgregar").empty());
-  EXPECT_EQ(Pulsar(s, {{"Texto_Nodo", "1"}}, "BotónAgregar"), Textos{"Ya existe un nodo con el mismo número."});
+  EXPECT_EQ(Pulsar(s, {{"Texto_Nodo", "1"}}, "BotónAgregar"), std::vector<std::string>{"Ya existe un nodo con el mismo número."});
   const auto& l = s.lista("ListaCoordenadasNodos");
   ASSERT_EQ(l.filas.size(), 3u);
   EXPECT_EQ(l.filas[0][0] + l.filas[1][0] + l.filas[2][0], "421");
   EXPECT_EQ(l.filas[0][1], "1.00");
   EXPECT_EQ(Pulsar(s, {}, "BotónAceptar"),
-            Textos{"La numeración que ud tiene asignada a los nodos no es continua. La numeración a "
+            std::vector<std::string>{"La numeración que ud tiene asignada a los nodos no es continua. La numeración a "
                    "los nodos debe ser: 1,2,3,4...."});
   EXPECT_FALSE(s.cerrada);
   EXPECT_FALSE(p.Malla.NodosDefinidos);
@@ -73,19 +74,20 @@ TEST(PantallaElementos, SeisNodosConLadosRectosYCurvos) {
   PantallaElementos s(p);
   InterfazGuionada ui;
   s.Activar(ui);
-  EXPECT_EQ(Pulsar(s, {{"Texto_Nodo_Elemento", "1"}}, "BotónAgregar"), Textos{"Debe insertar el primer elemento"});
+  EXPECT_EQ(Pulsar(s, {{"Texto_Nodo_Elemento", "1"}}, "BotónAgregar"), std::vector<std::string>{"Debe insertar el primer elemento"});
   s.NuevoElemento(ui);
-  EXPECT_EQ(Pulsar(s, {{"Texto_Nodo_Elemento", "x"}}, "BotónAgregar"), Textos{"Debe introducir el número asignado al nodo"});
+  EXPECT_EQ(Pulsar(s, {{"Texto_Nodo_Elemento", "x"}}, "BotónAgregar"),
+            Textos{"Debe introducir el número asignado al nodo"});
   EXPECT_EQ(Pulsar(s, {{"Texto_Nodo_Elemento", "9"}}, "BotónAgregar"),
             Textos{"Debe introducir un número que identifique un nodo dado"});
   // Six nodes, side 1-2 straight: the fourth repeats the first.
   for (const char* n : {"1", "2", "3", "1", "5", "6"}) Pulsar(s, {{"Texto_Nodo_Elemento", n}}, "BotónAgregar");
   EXPECT_EQ(Pulsar(s, {{"Texto_Nodo_Elemento", "7"}}, "BotónAgregar"),
-            Textos{"Ud ha seleccionado trabajar con elementos triangulares y está asignando más de seis "
+            std::vector<std::string>{"Ud ha seleccionado trabajar con elementos triangulares y está asignando más de seis "
                    "nodos al elemento que tiene al frente."});
   EXPECT_EQ(Pulsar(s, {{"TextoNúmeroPuntosIntegración", "2"}}, "Modificar").size(), 1u);
   EXPECT_EQ(Pulsar(s, {{"TextoNúmeroPuntosIntegración", "3"}, {"TextoLadoUnoDOs", "no"}, {"TextoLadoDOsTres", "tal vez"}}, "Modificar"),
-            Textos{"Si existe nodo intermedio en el lado 2 - 3, escriba 'SI' de lo contrario escriba  'NO'"});
+            std::vector<std::string>{"Si existe nodo intermedio en el lado 2 - 3, escriba 'SI' de lo contrario escriba  'NO'"});
   EXPECT_TRUE(Pulsar(s, {{"TextoLadoUnoDOs", "no"}, {"TextoLadoDOsTres", "si"}, {"TextoLadoTresUno", "SI"}}, "Modificar").empty());
   EXPECT_TRUE(Pulsar(s, {}, "BotónAceptar").empty());
   ASSERT_TRUE(s.cerrada);
@@ -101,10 +103,10 @@ TEST(PantallaElementos, SeisNodosConLadosRectosYCurvos) {
   t.lista("ListaNodosElementos").seleccionada = 4;
   EXPECT_TRUE(Pulsar(t, {{"Texto_Nodo_Elemento", "2"}}, "BotónModificar").empty());
   EXPECT_EQ(Pulsar(t, {}, "BotónAceptar"),
-            Textos{"El elemento triangular es de orden cuadrático(definidos por seis nodos). Cuando el "
-                   "Lado 1-2 es recto, el cuarto nodo insertado debe ser igual al número que identifica "
-                   "el primer nodo insertado. El elemento identificado con el número que está al final "
-                   "de este mensaje no cumple con esta exigencia: 1"});
+            Textos{"El elemento triangular es de orden cuadrático(definidos por seis nodos). "
+                   "Cuando el Lado 1-2 es recto, el cuarto nodo insertado debe ser igual al número "
+                   "que identifica el primer nodo insertado. El elemento identificado con el número "
+                   "que está al final de este mensaje no cumple con esta exigencia: 1"});
   EXPECT_FALSE(t.cerrada);
 }
 
@@ -117,19 +119,20 @@ TEST(PantallasDeMalla, RestriccionesYCargas) {
   InterfazGuionada ui;
   PantallaRestricciones r(p);
   r.Activar(ui);
-  const pruebas::Cajas fila = {{"TextoNodoRestringido", "2"}, {"TextoRestricciónX", "n"}, {"TextoRestricciónY", "S"},
-                               {"TextoRestricciónZ", "N"},     {"TextoResorteX", "0"},      {"TextoResorteY", "5000"},
+  const pruebas::Cajas fila = {{"TextoNodoRestringido", "2"}, {"TextoRestricciónX", "n"},
+                               {"TextoRestricciónY", "S"},    {"TextoRestricciónZ", "N"},
+                               {"TextoResorteX", "0"},        {"TextoResorteY", "5000"},
                                {"TextoResorteZ", "0"}};
   EXPECT_TRUE(Pulsar(r, fila, "BotónAgregar").empty());
-  EXPECT_EQ(Pulsar(r, fila, "BotónAgregar"), Textos{"Ya existe un nodo con restricción con el mismo número."});
+  EXPECT_EQ(Pulsar(r, fila, "BotónAgregar"), std::vector<std::string>{"Ya existe un nodo con restricción con el mismo número."});
   EXPECT_EQ(r.Filas().size(), 2u);
   EXPECT_EQ(Pulsar(r, {{"TextoNodoRestringido", "8"}}, "BotónAgregar"),
             Textos{"Debe introducir un número que corresponda a determinado elemento"});
   EXPECT_EQ(Pulsar(r, {{"TextoNodoRestringido", "1"}, {"TextoRestricciónY", "X"}}, "BotónAgregar"),
-            Textos{"Para la condición de restricción en <Y> debe introducir una 'S para condición con "
+            std::vector<std::string>{"Para la condición de restricción en <Y> debe introducir una 'S para condición con "
                    "desplazamiento' o una 'N para condición sin desplazamiento'"});
   EXPECT_EQ(Pulsar(r, {{"TextoRestricciónY", "s"}, {"TextoResorteY", ""}}, "BotónAgregar"),
-            Textos{"Debe introducir un valor para la constante del resorte en dirección 'y' incluyendo el "
+            std::vector<std::string>{"Debe introducir un valor para la constante del resorte en dirección 'y' incluyendo el "
                    "cero cuando no exista desplazamiento en determinada dirección."});
   EXPECT_EQ(Pulsar(r, {}, "BotónAceptar", "N").size(), 1u);  // the question only
   EXPECT_TRUE(p.Malla.NodosRestringidosDefinidos);
@@ -155,7 +158,8 @@ TEST(ComandosDeMalla, PuertasYArchivosLaterales) {
       {MenúCoordenadasNodos, false, "Ud. no está trabajando con elementos finitos"},
       {CaracterizaciónElementos, true, "Debe definir primero los elementos y número de estratos"},
       {NodosConRestricción, true, "Debe definir primero los elementos"},
-      {PresionesDePoros, false, "Ud.está trabajando por métodos de equilibrio límites y no con elementos finitos."},
+      {PresionesDePoros, false,
+       "Ud.está trabajando por métodos de equilibrio límites y no con elementos finitos."},
       {PresionesDePoros, true, "No se han definido los elementos finitos."},
   };
   for (const auto& [comando, elementosFinitos, texto] : casos) {
@@ -241,8 +245,8 @@ TEST(ResultadosSísmicos, ClicEnUnPuntoFijoOLibre) {
   f.ClicEnNodo(3, ui);  // node 2: fixed along x only, its chart opens
   ASSERT_EQ(ui.Transcripción().size(), 2u);
   EXPECT_EQ(ui.Transcripción()[0].texto,
-            "El punto de coordenada seleccionado es un punto con restricción, sin desplazamiento en "
-            "ninguna dirección");
+            "El punto de coordenada seleccionado es un punto con restricción, sin desplazamiento "
+            "en ninguna dirección");
   EXPECT_EQ(ui.Transcripción()[1].tipo, "figura");
   EXPECT_EQ(ui.Transcripción()[1].texto, "GraficaDeRegistroSísmicoEstimadoDeAceleraciones");
   EXPECT_EQ(NodoElegidoSísmico(), 2);

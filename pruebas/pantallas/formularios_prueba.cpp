@@ -4,9 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <string>
-#include <tuple>
-#include <vector>
 
 #include "pantallas/comun_pantallas.h"
 #include "pantallas/estratos_roca.h"
@@ -39,7 +36,8 @@ struct Información : ::testing::Test {
                                  {"TextoProgresivaFinal", "1+250.00"},
                                  {"TextoFechaProyecto", "30 / 12/ 1999"},
                                  {"TextoIngResponsable", "M. Pérez"},
-                                 {"TextoEmpresa", "Geotecnia del Sur"}, {"TextoDeAnálisis", letra}});
+                                 {"TextoEmpresa", "Geotecnia del Sur"},
+                                 {"TextoDeAnálisis", letra}});
     pantalla.Pulsar("BotónAceptar", ui);
   }
 };
@@ -203,7 +201,8 @@ TEST_F(Estratos, AceptarPideLaLetraSYTodasLasFilas) {
   pantalla.Pulsar("BotónAceptar", ui);
   EXPECT_EQ(ui.Transcripción(),
             (std::vector<Apunte>{
-                {"mensaje", "", "Para el análisis en suelos, ud debe introducir  la letra  'S'", ""},
+                {"mensaje", "", "Para el análisis en suelos, ud debe introducir  la letra  'S'",
+                 ""},
                 {"mensaje", "Características de los estratos",
                  "Faltan datos. Debe introducir las características para todos y cada uno de los "
                  "estratos", ""}}));
@@ -279,19 +278,20 @@ TEST_F(EstratosRoca, ComprobacionesEnSuOrden) {
   // clang-format off
   const std::vector<const char*> buena{"10", "50", "0", "0", "2.5", "2.6", "100", "", "", "", ""};
   const std::vector<const char*> buenaF{"10", "50", "0", "0", "2.5", "2.6", "100", "800", "1500", "0.25", "0"};
+  const Cajas ningunas;
   const std::vector<Caso> casos = {
       {"T", {"10", "x"}, {}, "Debe introducir un número para el índice de calidad de la roca"},
-      {"T", {"10", "101"}, {}, "Debe introducir el valor apropiado del índice de calidad de la roca GSI"},
+      {"T", {"10", "101"}, ningunas, "Debe introducir el valor apropiado del índice de calidad de la roca GSI"},
       {"T", {"x", "50", "x"}, {}, "Debe introducir un número para este parámetro"},
       {"T", {"10", "50", "x", "x"}, {}, "Debe introducir un número para el parámetro 'm'"},
       {"T", {"10", "50", "0", "x", "x"}, {}, "Debe introducir un número para el parámetro 's'"},
-      {"T", {"10", "50", "0", "0", "x", "x"}, {}, "Debe introducir un número en el peso unitario húmedo"},
-      {"T", {"10", "50", "0", "0", "2", "x", "x"}, {}, "Debe introducir un número en el peso unitario saturado"},
-      {"T", {"10", "50", "0", "0", "2", "2", "x"}, {}, "Debe introducir un número para la resistencia a la compresión simple"},
-      {"F", {"10", "50", "0", "0", "2", "2", "100", "x", "1500"}, {}, "Debe dar el valor de la velocidad de la onda de corte."},
-      {"F", {"10", "50", "0", "0", "2", "2", "100", "1600", "1500"}, {}, "La velocidad de la onda de corte es menor que la velocidad de la onda longitudinal."},
-      {"F", {"10", "50", "0", "0", "2", "2", "100", "800", "1500", "x", "x"}, {}, "Debe dar el valor del coeficiente de poisson."},
-      {"F", {"10", "50", "0", "0", "2", "2", "100", "800", "1500", "0.2", "x"}, {}, "Debe introducir un número para la viscosidad de la roca, incluyendo el cero."},
+      {"T", {"10", "50", "0", "0", "x", "x"}, ningunas, "Debe introducir un número en el peso unitario húmedo"},
+      {"T", {"10", "50", "0", "0", "2", "x", "x"}, ningunas, "Debe introducir un número en el peso unitario saturado"},
+      {"T", {"10", "50", "0", "0", "2", "2", "x"}, ningunas, "Debe introducir un número para la resistencia a la compresión simple"},
+      {"F", {"10", "50", "0", "0", "2", "2", "100", "x", "1500"}, ningunas, "Debe dar el valor de la velocidad de la onda de corte."},
+      {"F", {"10", "50", "0", "0", "2", "2", "100", "1600", "1500"}, ningunas, "La velocidad de la onda de corte es menor que la velocidad de la onda longitudinal."},
+      {"F", {"10", "50", "0", "0", "2", "2", "100", "800", "1500", "x", "x"}, ningunas, "Debe dar el valor del coeficiente de poisson."},
+      {"F", {"10", "50", "0", "0", "2", "2", "100", "800", "1500", "0.2", "x"}, ningunas, "Debe introducir un número para la viscosidad de la roca, incluyendo el cero."},
       {"T", buena, {{"TextoSueloRoca", "S"}}, "Ud va hacer un análisis en ROCA y debe introducir la letra  'R'"},
       {"F", buenaF, {{"TextoSueloRoca", "r"}, {"TextoTipoDeObra", "X"}}, "Presione la letra 'O' para  Túneles y  la letra 'S' para taludes."},
       {"T", buena, {{"TextoSueloRoca", "R"}, {"TextoFactorPerturbación", "x"}}, "Debe introducir un el valor apropiado para el factor de corrección por perturbación de la roca, el cual varía entre 0 y 1"},
@@ -408,7 +408,8 @@ TEST_F(Tramos, ComprobacionesDeAgregarEnSuOrden) {
       {"1.5", "3", "L", {"El número del punto inicial debe ser entero"}},
       {"1", "2.5", "L", {"El número del punto final debe ser entero"}},
       {"1", "2", "p", {"No puede seleccionar un polinomio entre dos puntos consecutivos"}},
-      {"1", "3", "C", {kAvisoCírculo, "Debe seleccionar un círculo entre dos puntos consecutivos."}},
+      {"1", "3", "C",
+       {kAvisoCírculo, "Debe seleccionar un círculo entre dos puntos consecutivos."}},
       {"1", "3", "L", {"Debe seleccionar un segmento recto entre dos puntos consecutivos."}},
       {"2", "3", "L", {"el valor inicial del primer punto tiene que ser igual a <1>"}},
   };
@@ -534,7 +535,8 @@ TEST(Cargas, UniformesComprobacionesEnSuOrdenYFilas) {
     f.Pulsar("BotónBorrar", ui);
   }
   EXPECT_TRUE(l.filas.empty());
-  EXPECT_EQ(Pulsar(f, {}, "BotónBorrar"), Textos{"Ud no ha seleccionado ninguna fila para borrar."});
+  EXPECT_EQ(Pulsar(f, {}, "BotónBorrar"),
+            Textos{"Ud no ha seleccionado ninguna fila para borrar."});
   f.Pulsar("BotónAceptar", ui);
   EXPECT_EQ(p.NúmeroCargasUniformes, 0);
   EXPECT_FALSE(p.CargasUniformesDadas);
@@ -574,7 +576,8 @@ TEST(Cargas, PuntualesComprobacionesSignosYGuardado) {
   EXPECT_EQ(ui.Textos(), (Textos{"'Px' es positiva cuando aplica compresión al talud y esta "
                                  "dirigida en dirección de las abscisas.",
                                  "'Py' es positiva cuando aplica compresión al talud y está "
-                                 "dirigida en la dirección de la gravedad (eje de las ordenadas)."}));
+                                 "dirigida en la dirección de la gravedad (eje de las "
+                                 "ordenadas)."}));
   ui.Responder("N");
   f.Pulsar("BotónCancelar", ui);
   EXPECT_FALSE(f.cerrada);

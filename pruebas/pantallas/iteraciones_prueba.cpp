@@ -3,15 +3,11 @@
 // forces; and the two override screens of the slices, Form18 and Form34, with their gates.
 #include <gtest/gtest.h>
 
-#include <string>
-#include <tuple>
-#include <vector>
-
+#include "apoyo/proyectos.h"
 #include "equilibrio/form13.h"
 #include "equilibrio/form17.h"
 #include "equilibrio/form18.h"
 #include "equilibrio/form9.h"
-#include "apoyo/proyectos.h"
 #include "pantallas/comun_pantallas.h"
 #include "pantallas/form34.h"
 #include "proyecto/comandos.h"
@@ -94,7 +90,8 @@ TEST_F(Form13Prueba, MuestraLosEsfuerzosYSusLímitesYElMaterialDecideElTítulo) 
   pruebas::Activar(pantalla, ui);
   // Limits on the total stresses: −c/tanφ + u = −2, and −1.5 under the pore pressure of slice 2.
   EXPECT_EQ(lista().filas, (Filas{{"1", "1.00", "1.23", "-2.00"}, {"2", "2.00", "2.50", "-1.50"},
-                                  {"3", "-1.00", "-2.50", "-2.00"}, {"4", "4.00", "4.25", "-2.00"}}));
+                                  {"3", "-1.00", "-2.50", "-2.00"},
+                                  {"4", "4.00", "4.25", "-2.00"}}));
   EXPECT_EQ(pantalla.texto("TextoDovelaFallida"), "3");
   // The title follows the strength law: the normal stresses, or sigma 3 in rock.
   const std::string normales = "Resultados de los sigma normales en el proceso iterativo";
@@ -223,8 +220,10 @@ TEST_F(Form17Prueba, ModificarYAceptar) {
   Poner(ui, 3, "0");
   pantalla.Pulsar("BotónAceptar", ui);
   EXPECT_EQ(pruebas::Renglones(ui),
-            (Textos{"[mensaje] Valores de ht | Seleccione en la lista la dovela cuyo ht desea cambiar.",
-                    "[mensaje] Valores de ht | Debe introducir un número para el nuevo valor de ht.",
+            (Textos{"[mensaje] Valores de ht | Seleccione en la lista la dovela cuyo ht desea "
+                    "cambiar.",
+                    "[mensaje] Valores de ht | Debe introducir un número para el nuevo valor de "
+                    "ht.",
                     "[mensaje] Valores de ht | Faltan datos. Debe introducir los valores deseados "
                     "para todos y cada una de las dovelas",
                     "[mensaje] Valores de ht | Parece que Ud. va  a trabajar con ht que no pueden "
@@ -252,7 +251,8 @@ TEST_F(Form17Prueba, SalirConValoresNuevosPregunta) {
   ui.Responder("N");
   pantalla.CerrarSinCambios(ui);  // the close box is the exit button: No closes, heights kept
   EXPECT_TRUE(pantalla.cerrada);
-  EXPECT_EQ(ui.Textos(), Textos(2, "Ud. desea utilizar los nuevos valores  de ht para el cálculo?"));
+  EXPECT_EQ(ui.Textos(),
+            Textos(2, "Ud. desea utilizar los nuevos valores  de ht para el cálculo?"));
   EXPECT_EQ(p.TablaDovelas.AlturaEmpuje[1], 1);
   InterfazGuionada otra;  // no new value: the exit closes without a question
   AbrirAbierta(otra);
@@ -322,7 +322,8 @@ TEST_F(Sobrescritura, Form18YForm34CancelarPreguntaYNoCambiaNada) {
     std::string pregunta;
   } const casos[] = {
       {CambioParámetrosResistenciaPresiónPoros, "Form18", "ListaParámetrosDeResistencia",
-       {{"TextoCambioCohesión", "2"}, {"TextoCambioFricción", "2"}, {"TextoCambioPresiónPoros", "2"}},
+       {{"TextoCambioCohesión", "2"}, {"TextoCambioFricción", "2"},
+        {"TextoCambioPresiónPoros", "2"}},
        "No desea cambiar algunos valores de los parámetros de resistencia en las dovelas o presión "
        "de poros?"},
       {PresionesDePorosEquilibrioLímite, "Form34", "ListaDePresiónDePoros",

@@ -11,8 +11,6 @@
 #include <cfloat>
 #include <filesystem>
 #include <fstream>
-#include <string>
-#include <vector>
 
 #include "apoyo/apoyo.h"
 #include "equilibrio/bishop.h"
