@@ -236,7 +236,7 @@ TEST_F(Archivo, AbrirPreguntaSoloConDatosYListaSinGuardarYUnArchivoIlegibleNoCam
 }
 
 // The questions of a finite-element project, in their order.
-TEST_F(Archivo, ElementosFinitosPreguntaTodoEnOrdenYUnNoTerminaElGuardado) {
+TEST_F(Archivo, ElementosFinitosPreguntaTodoEnOrdenUnNoTerminaElGuardadoYUnSíSísmicoBasta) {
   p.TipoDeAnálisis = "F";
   p.CálculoHecho = false;
   const Textos preguntas = {
@@ -274,13 +274,9 @@ TEST_F(Archivo, ElementosFinitosPreguntaTodoEnOrdenYUnNoTerminaElGuardado) {
     EXPECT_EQ(Renglones(i).size(), k + 1);
     EXPECT_EQ(Renglones(i).back(), P(preguntas[k], "N"));
   }
-}
-
-TEST_F(Archivo, ElementosFinitosEnRocaCompletaConSismoSinCalcular) {
+  // Rock, complete, with seismic data not yet calculated.
   const std::string sísmico =
       "Ud. no ha realizado el cálculo sísmico, ¿Desea guardar y luego calcular?";
-  p.TipoDeAnálisis = "F";
-  p.CálculoHecho = false;
   p.TipoDeMaterial = "R";  // no elastic nor seismic parameters are asked for rock
   p.Malla.NodosDefinidos = p.Malla.ElementosDefinidos = p.Malla.MaterialesAsignados = true;
   p.Malla.NodosRestringidosDefinidos = true;

@@ -147,12 +147,11 @@ TEST_F(Constantes, CadaComprobaciónEnSuOrdenDejaLaPantallaAbiertaYNadaGuardado)
     Aceptar(r.cambios, "S");  // Yes to the question on the cohesive-frictional strata
     ASSERT_FALSE(ui.Transcripción().empty());
     EXPECT_EQ(ui.Transcripción().back(), (Apunte{"mensaje", r.título, r.texto, ""}));
-    EXPECT_FALSE(pantalla.cerrada);
-    EXPECT_FALSE(p.ParámetrosInicialesDados);
-    EXPECT_EQ(p.ParámetrosIniciales.MétodoDeCálculo, 0);
-    EXPECT_EQ(p.ParámetrosIniciales.NúmeroDovelas, 0);
-    EXPECT_EQ(p.GrietaTracción.OrdenadaPrimerPunto, 0);
-    EXPECT_TRUE(p.DatosGuardados);
+    EXPECT_FALSE(pantalla.cerrada || p.ParámetrosInicialesDados || !p.DatosGuardados);
+    EXPECT_EQ((std::vector<double>{1.0 * p.ParámetrosIniciales.MétodoDeCálculo,
+                                   p.ParámetrosIniciales.NúmeroDovelas,
+                                   p.GrietaTracción.OrdenadaPrimerPunto}),
+              std::vector<double>(3, 0));
   }
   // A No on Leshchinsky suggests the other methods.
   p = ProyectoDeArco();
@@ -359,7 +358,7 @@ struct ConstantesElementos : ::testing::Test {
   }
 };
 
-TEST_F(ConstantesElementos, ComprobacionesEnOrden) {
+TEST_F(ConstantesElementos, ComprobacionesEnOrdenYLoQueGuarda) {
   const std::tuple<const char*, const char*, const char*, const char*> casos[] = {
       {"T", "TextoMétodoDeCálculo", "4",
        "Ud. eligió trabajar por métodos de equilibrio límite y no por elementos finitos."},
@@ -385,9 +384,7 @@ TEST_F(ConstantesElementos, ComprobacionesEnOrden) {
     EXPECT_FALSE(pantalla.cerrada || p.ParámetrosInicialesDados);
   }
   EXPECT_EQ(pantalla.texto("TextoDeLaCuerda"), "11.66");
-}
-
-TEST_F(ConstantesElementos, GuardaMétodoFactorDovelasYRadio) {
+  SetUp();
   pantalla.Pulsar("BotónAceptar", ui);
   EXPECT_TRUE(pantalla.cerrada && p.ParámetrosInicialesDados);
   const auto& pi = p.ParámetrosIniciales;

@@ -418,7 +418,7 @@ TEST_F(Tramos, ComprobacionesDeAgregarEnSuOrden) {
   EXPECT_EQ(Filas(), 0u);
 }
 
-TEST_F(Tramos, ContinuidadEntreTramos) {
+TEST_F(Tramos, ContinuidadEntreTramosBorrarYCancelar) {
   Puntos(6);
   EXPECT_TRUE(Agregar("1", "2", "L").empty());
   EXPECT_TRUE(Agregar("2", "4", "P").empty());
@@ -442,9 +442,9 @@ TEST_F(Tramos, ContinuidadEntreTramos) {
             "PCL");
   EXPECT_EQ(p.TramoFalla.PuntoFinal[2], 4);
   EXPECT_FALSE(p.SuperficieCircular() || p.DatosGuardados);
-}
-
-TEST_F(Tramos, BorrarQuitaElÚltimoYCancelarPregunta) {
+  // Borrar takes off the last stretch; Cancelar asks, and Yes keeps nothing.
+  p.GeometríaFallaDefinida = false;
+  p.NúmeroTramosFalla = 0;
   Puntos(3);
   Agregar("1", "2", "L");
   Agregar("2", "3", "L");

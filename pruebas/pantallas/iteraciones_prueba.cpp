@@ -86,7 +86,7 @@ struct Form13Prueba : ::testing::Test {
   }
 };
 
-TEST_F(Form13Prueba, MuestraLosEsfuerzosYSusLímitesYElMaterialDecideElTítulo) {
+TEST_F(Form13Prueba, MuestraLosEsfuerzosYSusLímitesElMaterialDecideElTítuloYFricciónNulaEsUnaFalla) {
   pruebas::Activar(pantalla, ui);
   // Limits on the total stresses: −c/tanφ + u = −2, and −1.5 under the pore pressure of slice 2.
   EXPECT_EQ(lista().filas, (Filas{{"1", "1.00", "1.23", "-2.00"}, {"2", "2.00", "2.50", "-1.50"},
@@ -103,6 +103,13 @@ TEST_F(Form13Prueba, MuestraLosEsfuerzosYSusLímitesYElMaterialDecideElTítulo) 
   pantalla.leySigma3 = false;
   pantalla.Activar(ui);
   EXPECT_EQ(pantalla.título, normales);
+  // In soil a zero friction under a slice is an arithmetic fault that ends the command.
+  p.TipoDeMaterial = "S";
+  p.TablaDovelas.TanFricciónBase[4] = 0;
+  EXPECT_THROW(pantalla.Activar(ui), FalloAritmético);
+  const auto fin = EjecutarComando([this](Proyecto&, Interfaz& u) { u.Abrir(pantalla); }, p, ui);
+  EXPECT_EQ(fin, FinDeComando::Fallo);
+  EXPECT_FALSE(p.SigmaCorregidaDisponible);
 }
 
 TEST_F(Form13Prueba, ModificarYAceptarDejanLosValoresEnLaÚltimaFila) {
@@ -150,14 +157,6 @@ TEST_F(Form13Prueba, SalirPreguntaSiUsarLosValores) {
   }
   EXPECT_EQ(ui.Textos(),
             Textos(2, "Ud. desea utilizar los valores actuales de sigma para el cálculo?"));
-}
-
-TEST_F(Form13Prueba, FricciónNulaEsUnaFallaAritmética) {
-  p.TablaDovelas.TanFricciónBase[4] = 0;
-  EXPECT_THROW(pantalla.Activar(ui), FalloAritmético);
-  const auto fin = EjecutarComando([this](Proyecto&, Interfaz& u) { u.Abrir(pantalla); }, p, ui);
-  EXPECT_EQ(fin, FinDeComando::Fallo);
-  EXPECT_FALSE(p.SigmaCorregidaDisponible);
 }
 
 struct Form17Prueba : ::testing::Test {
@@ -362,7 +361,7 @@ TEST_F(Sobrescritura, Form18SinParámetrosInstantáneos) {
                     "INICIALES LA OPCION PARAMETROS INSTANTANEOS"}));
 }
 
-TEST_F(Sobrescritura, Form34AceptaLasPresionesDeLasDovelas) {
+TEST_F(Sobrescritura, Form34AceptaLasPresionesDeLasDovelasYRechazaConSuTexto) {
   p.PresionesExistentes = false;
   InterfazGuionada ui;
   ui.GuionPantalla("Form34", [](Pantalla& s, Interfaz& u) {
@@ -381,9 +380,7 @@ TEST_F(Sobrescritura, Form34AceptaLasPresionesDeLasDovelas) {
   EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[1], 0.125);
   EXPECT_TRUE(p.PresionesExistentes);
   EXPECT_FALSE(p.DatosGuardados);
-}
-
-TEST_F(Sobrescritura, Form34RechazaConSuTexto) {
+  // The gates of the command, each with its text, change nothing.
   const std::tuple<const char*, bool, Entero, const char*> casos[] = {
       {"", true, 4, "Seleccione en la pantalla principal la opción <T> ó <F>"},
       {"F", true, 4,
@@ -399,10 +396,10 @@ TEST_F(Sobrescritura, Form34RechazaConSuTexto) {
     p.TipoDeAnálisis = tipo;
     p.CálculoHecho = calculado;
     p.NúmeroBordes = bordes;
-    InterfazGuionada ui;
-    PresionesDePorosEquilibrioLímite(p, ui);
-    EXPECT_EQ(ui.Textos(), Textos{texto});
-    EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[1], 0.125);
+    InterfazGuionada ui2;
+    PresionesDePorosEquilibrioLímite(p, ui2);
+    EXPECT_EQ(ui2.Textos(), Textos{texto});
+    EXPECT_DOUBLE_EQ(p.TablaDovelas.PresiónPoros[3], 2.5);
   }
 }
 
