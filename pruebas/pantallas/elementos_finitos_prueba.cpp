@@ -105,8 +105,8 @@ TEST(PantallaElementos, SeisNodosConLadosRectosYCurvos) {
   EXPECT_EQ(Pulsar(t, {}, "BotónAceptar"),
             Textos{"El elemento triangular es de orden cuadrático(definidos por seis nodos). "
                    "Cuando el Lado 1-2 es recto, el cuarto nodo insertado debe ser igual al número "
-                   "que identifica el primer nodo insertado. El elemento identificado con el número "
-                   "que está al final de este mensaje no cumple con esta exigencia: 1"});
+                   "que identifica el primer nodo insertado. El elemento identificado con el "
+                   "número que está al final de este mensaje no cumple con esta exigencia: 1"});
   EXPECT_FALSE(t.cerrada);
 }
 

@@ -86,7 +86,7 @@ struct Form13Prueba : ::testing::Test {
   }
 };
 
-TEST_F(Form13Prueba, MuestraLosEsfuerzosYSusLímitesElMaterialDecideElTítuloYFricciónNulaEsUnaFalla) {
+TEST_F(Form13Prueba, MuestraLosEsfuerzosYLímitesElMaterialDecideElTítuloYFricciónNulaEsFalla) {
   pruebas::Activar(pantalla, ui);
   // Limits on the total stresses: −c/tanφ + u = −2, and −1.5 under the pore pressure of slice 2.
   EXPECT_EQ(lista().filas, (Filas{{"1", "1.00", "1.23", "-2.00"}, {"2", "2.00", "2.50", "-1.50"},
