@@ -1,53 +1,38 @@
 // The menu "Archivo" of the main window: New, Open, the checks before a save and their order,
-// Save handing over to Save as, the overwrite question, Exit, and the menu "Ayuda".
+// Save handing over to Save as, the overwrite question, a save that fails, Exit, and "Ayuda".
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
-#include <optional>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "apoyo/apoyo.h"
-#include "apoyo/guion.h"
 #include "pantallas/comandos_archivo.h"
-#include "pantallas/interfaz_guionada.h"
-#include "proyecto/proyecto.h"
+#include "pantallas/comun_pantallas.h"
 
 namespace lomaterra {
 namespace {
 
-// The scripted interface, also noting the filter and the selected index of each file dialog.
-class InterfazConFiltros : public InterfazGuionada {
- public:
-  using InterfazGuionada::InterfazGuionada;
-  std::optional<std::string> HacerElegirArchivoAbrir(const std::string& filtro, int índice) override {
-    filtros.emplace_back(filtro, índice);
-    return InterfazGuionada::HacerElegirArchivoAbrir(filtro, índice);
-  }
-  std::optional<std::string> HacerElegirArchivoGuardar(const std::string& filtro, int índice) override {
-    filtros.emplace_back(filtro, índice);
-    return InterfazGuionada::HacerElegirArchivoGuardar(filtro, índice);
-  }
-  std::vector<std::pair<std::string, int>> filtros;
-};
-
 using pruebas::Renglones;
+using pruebas::Textos;
 
-const std::string kFiltro = "Todos los archivos (*.*)|*.*|Archivos de coordenadas (*.cod)|*.cod";
-
-// Questions of the chain as they stand in the transcript, without the answer.
+std::string P(const std::string& texto, const char* r) {
+  return "[pregunta]  | " + texto + " -> " + r;
+}
+// Questions of the chain, word for word.
 const std::string kSísmico =
-    "[pregunta]  | Existe  datos o registros para análisis sísmicos. Por tanto para el análisis "
-    "por los métodos de equilibrio límite, se recomienda que Guarde la información en otro archivo "
-    "con otro nombre para no perder esa información si así lo considera. ¿Desea continuar?. -> ";
-const std::string kSinCálculo =
-    "[pregunta]  | Ud. no ha realizado el cálculo, ¿Desea guardar y luego calcular? -> ";
+    "Existe  datos o registros para análisis sísmicos. Por tanto para el análisis por los métodos "
+    "de equilibrio límite, se recomienda que Guarde la información en otro archivo con otro nombre "
+    "para no perder esa información si así lo considera. ¿Desea continuar?.";
+const std::string kSinCálculo = "Ud. no ha realizado el cálculo, ¿Desea guardar y luego calcular?";
+const std::string kNoGuardado = "No ha guardado los datos actuales, ¿desea guardarlos?";
+const std::string kAbrirOtro =
+    "No ha guardado los datos actuales, ¿desea continuar y abrir otro archivo?";
 const std::string kDiálogoCancelado = "[archivo] Guardar como | ";
+const std::string kSinInformación =
+    "[mensaje] Información del proyecto | Si desea guardar información, comience por dar La "
+    "información del proyecto en el menú archivo.";
 
-class Archivo : public ::testing::Test {
- protected:
+struct Archivo : ::testing::Test {
   // A limit-equilibrium project that passes the first four checks and has been calculated.
   void SetUp() override {
     ReiniciarProyecto(p);
@@ -63,18 +48,12 @@ class Archivo : public ::testing::Test {
     p.ListaGuardada = false;
   }
   Proyecto p;
-  InterfazConFiltros ui;
+  InterfazGuionada ui;
 };
 
 TEST_F(Archivo, LasCuatroComprobacionesQueTerminanElGuardado) {
-  struct Caso {
-    std::function<void(Proyecto&)> falta;
-    std::string línea;
-  };
-  const Caso casos[] = {
-      {[](Proyecto& q) { q.InformaciónDada = false; },
-       "[mensaje] Información del proyecto | Si desea guardar información, comience por dar La "
-       "información del proyecto en el menú archivo."},
+  const std::pair<std::function<void(Proyecto&)>, std::string> casos[] = {
+      {[](Proyecto& q) { q.InformaciónDada = false; }, kSinInformación},
       {[](Proyecto& q) { q.NúmeroPuntosTalud = 0; },
        "[mensaje] Coordenadas Talud-Presa-Túnel | Si desea guardar información, debe dar primero "
        "las coordenas del talud o las coordenadas de la superficie de la Presa ó coordenadas del "
@@ -91,48 +70,37 @@ TEST_F(Archivo, LasCuatroComprobacionesQueTerminanElGuardado) {
   for (std::size_t k = 0; k < std::size(casos); ++k) {
     SCOPED_TRACE(k);
     Proyecto q = p;
-    for (std::size_t j = k; j < std::size(casos); ++j) casos[j].falta(q);
+    for (std::size_t j = k; j < std::size(casos); ++j) casos[j].first(q);
     for (auto comando : {MenúArchivoGuardar, MenúArchivoGuardarComo}) {
-      InterfazConFiltros i("SSSS");
+      InterfazGuionada i("SSSS");
       comando(q, i);
-      EXPECT_EQ(Renglones(i), std::vector<std::string>{casos[k].línea});
-      EXPECT_TRUE(i.filtros.empty());
+      EXPECT_EQ(Renglones(i), Textos{casos[k].second});
     }
   }
 }
 
 TEST_F(Archivo, PreguntaSísmicaYDeCálculoEnEquilibrioLímite) {
-  struct Caso {
-    const char* nombre;
-    bool sismo, calculado;
-    const char* respuestas;
-    std::vector<std::string> líneas;
-    bool sismoBorrado;
+  // Seismic data, calculation done, the answers and what the command says.
+  const std::tuple<bool, bool, const char*, Textos> casos[] = {
+      {true, true, "N", {P(kSísmico, "N")}},
+      {true, true, "S", {P(kSísmico, "S"), kDiálogoCancelado}},
+      {false, false, "N", {P(kSinCálculo, "N")}},
+      {false, false, "S", {P(kSinCálculo, "S"), kDiálogoCancelado}},
+      {true, false, "SN", {P(kSísmico, "S"), P(kSinCálculo, "N")}},
   };
-  const Caso casos[] = {
-      {"SismoNo", true, true, "N", {kSísmico + "N"}, false},
-      {"SismoSíCalculado", true, true, "S", {kSísmico + "S", kDiálogoCancelado}, true},
-      {"SinCálculoNo", false, false, "N", {kSinCálculo + "N"}, false},
-      {"SinCálculoSí", false, false, "S", {kSinCálculo + "S", kDiálogoCancelado}, false},
-      {"SismoSíSinCálculoNo", true, false, "SN", {kSísmico + "S", kSinCálculo + "N"}, true},
-  };
-  for (const Caso& c : casos) {
-    SCOPED_TRACE(c.nombre);
+  for (const auto& [sismo, calculado, respuestas, líneas] : casos) {
     Proyecto q = p;
-    q.CálculoHecho = c.calculado;
-    q.Sísmico.FrecuenciasDadas = c.sismo;
-    q.Sísmico.SismoCalculado = c.sismo;
-    q.Sísmico.PasosSísmicos = c.sismo ? 40 : 0;
-    InterfazConFiltros i(c.respuestas);
+    q.CálculoHecho = calculado;
+    q.Sísmico.FrecuenciasDadas = q.Sísmico.SismoCalculado = sismo;
+    q.Sísmico.PasosSísmicos = sismo ? 40 : 0;
+    InterfazGuionada i(respuestas);
     MenúArchivoGuardarComo(q, i);
-    EXPECT_EQ(Renglones(i), c.líneas);
-    if (c.sismoBorrado) {
-      EXPECT_FALSE(q.Sísmico.FrecuenciasDadas);
-      EXPECT_FALSE(q.Sísmico.SismoCalculado);
-      EXPECT_EQ(q.Sísmico.PasosSísmicos, 0);
-    } else {
-      EXPECT_EQ(q.Sísmico.FrecuenciasDadas, c.sismo);
-    }
+    EXPECT_EQ(Renglones(i), líneas);
+    // A Yes to the seismic question really drops the seismic data.
+    const bool queda = sismo && respuestas[0] == 'N';
+    EXPECT_EQ(q.Sísmico.FrecuenciasDadas, queda);
+    EXPECT_EQ(q.Sísmico.SismoCalculado, queda);
+    EXPECT_EQ(q.Sísmico.PasosSísmicos, queda ? 40 : 0);
     EXPECT_FALSE(q.DatosGuardados);  // nothing written
   }
 }
@@ -145,212 +113,170 @@ TEST_F(Archivo, GuardarPasaLasComprobacionesDosVecesYSiempreMuestraElDiálogo) {
   MenúArchivoGuardar(p, ui);
   // The seismic data were dropped by the first Yes, so the second pass asks only about the
   // calculation.
-  EXPECT_EQ(Renglones(ui), (std::vector<std::string>{kSísmico + "S", kSinCálculo + "S",
-                                                  kSinCálculo + "S", kDiálogoCancelado}));
-  EXPECT_EQ(ui.filtros, (std::vector<std::pair<std::string, int>>{{kFiltro, 2}}));
+  EXPECT_EQ(Renglones(ui), (Textos{P(kSísmico, "S"), P(kSinCálculo, "S"), P(kSinCálculo, "S"),
+                                   kDiálogoCancelado}));
   EXPECT_FALSE(p.DatosGuardados);  // the dialog was cancelled
   EXPECT_EQ(p.Ventana.Título, "[Nuevo proyecto] - Lomaterra");
-
   // A No in the second pass ends the command before the dialog.
-  InterfazConFiltros i("SN");
+  InterfazGuionada i("SN");
   MenúArchivoGuardar(p, i);
-  EXPECT_EQ(Renglones(i), (std::vector<std::string>{kSinCálculo + "S", kSinCálculo + "N"}));
-  EXPECT_TRUE(i.filtros.empty());
+  EXPECT_EQ(Renglones(i), (Textos{P(kSinCálculo, "S"), P(kSinCálculo, "N")}));
 }
 
-TEST_F(Archivo, SoloUnArchivoExistentePreguntaYConNoNoSeToca) {
+TEST_F(Archivo, GuardarComoPreguntaSoloPorUnArchivoExistenteYNoPresentaUnFalloComoGuardado) {
   const std::string ruta = pruebas::CarpetaTemporal() + "/talud.cod";
-  { std::ofstream(ruta) << "contenido anterior\n"; }
+  std::ofstream(ruta) << "contenido anterior\n";
   ui.ArchivosElegidos({ruta});
   ui.Responder("N");
   MenúArchivoGuardarComo(p, ui);
-  EXPECT_EQ(Renglones(ui), (std::vector<std::string>{
-                            "[archivo] Guardar como | " + ruta,
-                            "[pregunta]  | El archivo ya existe. ¿Desea sobreescribirlo? -> N"}));
-  std::ifstream f(ruta);
-  std::string línea;
-  std::getline(f, línea);
-  EXPECT_EQ(línea, "contenido anterior");
+  EXPECT_EQ(Renglones(ui), (Textos{"[archivo] Guardar como | " + ruta,
+                                   P("El archivo ya existe. ¿Desea sobreescribirlo?", "N")}));
+  EXPECT_EQ(pruebas::LeerArchivo(ruta), "contenido anterior\n");
   EXPECT_FALSE(p.DatosGuardados);
   EXPECT_EQ(p.Ventana.NombreArchivo, "");
   // A file that does not exist yet is not asked about.
-  InterfazConFiltros i;
-  i.ArchivosElegidos({pruebas::CarpetaTemporal() + "/nuevo.cod"});
+  const std::string nuevo = pruebas::CarpetaTemporal() + "/nuevo.cod";
+  InterfazGuionada i;
+  i.ArchivosElegidos({nuevo});
   MenúArchivoGuardarComo(p, i);
   for (const auto& a : i.Transcripción()) EXPECT_NE(a.tipo, "pregunta") << a.texto;
+  // A file that cannot be written is not presented as saved: it says why.
+  const std::string fallo = pruebas::CarpetaTemporal() + "/no/hay/carpeta/fallo.cod";
+  InterfazGuionada j;
+  j.ArchivosElegidos({fallo});
+  p.DatosGuardados = false;
+  MenúArchivoGuardarComo(p, j);
+  EXPECT_FALSE(std::filesystem::exists(fallo));
+  EXPECT_FALSE(p.DatosGuardados);
+  EXPECT_EQ(p.Ventana.NombreArchivo, nuevo);  // the name and title of the last file written
+  EXPECT_EQ(p.Ventana.Título, "nuevo.cod - Lomaterra");
+  EXPECT_EQ(j.Textos().size(), 1u);
 }
 
-TEST_F(Archivo, NuevoConNoDescartaLosDatos) {
+TEST_F(Archivo, GuardarComoNuevoYAbrirDevuelvenElProyecto) {
+  AbrirArchivoDeProyecto(p, ui, pruebas::RutaEjemplo("talud_homogeneo.cod"));
+  const Entero puntos = p.NúmeroPuntosTalud;
+  const std::string empresa = p.InformaciónProyecto.Empresa;
+  const std::string ruta = pruebas::CarpetaTemporal() + "/ida.cod";
+  ui = InterfazGuionada("SSS");
+  ui.ArchivosElegidos({ruta});
+  MenúArchivoGuardarComo(p, ui);
+  ASSERT_TRUE(std::filesystem::exists(ruta));
+  EXPECT_TRUE(p.DatosGuardados);
+  EXPECT_EQ(p.Ventana.NombreArchivo, ruta);
+  EXPECT_EQ(p.Ventana.Título, "ida.cod - Lomaterra");
+  ui.Olvidar();
+  ArchivoNuevo(p, ui);  // saved: no question
+  ASSERT_EQ(p.NúmeroPuntosTalud, 0);
+  p.Ventana.TipoPanel = 3;
+  ui.ArchivosElegidos({ruta});
+  MenúArchivoAbrir(p, ui);
+  EXPECT_EQ(Renglones(ui), Textos{"[archivo] Abrir | " + ruta});
+  EXPECT_EQ(p.Ventana.Título, "ida.cod - Lomaterra");
+  EXPECT_FALSE(p.DatosGuardados);
+  EXPECT_EQ(p.InformaciónProyecto.Empresa, empresa);
+  EXPECT_EQ(p.NúmeroPuntosTalud, puntos);
+  EXPECT_EQ(p.Ventana.TipoPanel, 1);  // the panel shows the surface again
+  EXPECT_EQ(p.Ventana.ListaCoordenadas.size(), static_cast<std::size_t>(puntos));
+}
+
+TEST_F(Archivo, NuevoYSalirPreguntanSoloConDatosSinGuardar) {
   p.Ventana.TextoProyecto = "Talud de la vía";
   p.Ventana.NombreArchivo = "/proyectos/via.cod";
   p.Ventana.Título = "via.cod - Lomaterra";
+  Proyecto q = p;
   ui.Responder("N");
   ArchivoNuevo(p, ui);
-  EXPECT_EQ(Renglones(ui),
-            std::vector<std::string>{
-                "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> N"});
-  EXPECT_EQ(p.NúmeroPuntosTalud, 0);
-  EXPECT_EQ(p.NúmeroEstratos, 0);
-  EXPECT_FALSE(p.InformaciónDada);
+  EXPECT_EQ(Renglones(ui), Textos{P(kNoGuardado, "N")});
+  EXPECT_EQ(p.NúmeroPuntosTalud, 0);  // reset, the data dropped
   EXPECT_TRUE(p.DatosGuardados);
-  EXPECT_EQ(p.Ventana.TextoProyecto, "");
-  EXPECT_EQ(p.Ventana.NombreArchivo, "");
+  EXPECT_EQ(p.Ventana.NombreArchivo + p.Ventana.TextoProyecto, "");
   EXPECT_EQ(p.Ventana.Título, "[Nuevo proyecto] - Lomaterra");
-  EXPECT_EQ(p.TipoDeAnálisis, "T");  // kept by the reset
+  InterfazGuionada nada;  // saved data: neither New nor Exit asks
+  ArchivoNuevo(p, nada);
+  MenúArchivoSalir(p, nada);
+  EXPECT_TRUE(nada.Transcripción().empty());
+  EXPECT_TRUE(p.Ventana.SalirDelPrograma);
+  // Yes goes through the command Save (refused here); New goes on, Exit leaves all the same.
+  q.InformaciónDada = false;
+  InterfazGuionada sí("SS");
+  ArchivoNuevo(q, sí);
+  EXPECT_EQ(q.NúmeroPuntosTalud, 0);
+  q.DatosGuardados = false;
+  MenúArchivoSalir(q, sí);
+  EXPECT_EQ(Renglones(sí), (Textos{P(kNoGuardado, "S"), kSinInformación, P(kNoGuardado, "S"),
+                                   kSinInformación}));
+  EXPECT_TRUE(q.Ventana.SalirDelPrograma);
 }
 
-TEST_F(Archivo, NuevoConSíGuardaPorElComandoGuardarYLuegoReinicia) {
-  p.InformaciónDada = false;  // the save refuses: New goes on all the same
-  ui.Responder("S");
-  ArchivoNuevo(p, ui);
-  EXPECT_EQ(
-      Renglones(ui),
-      (std::vector<std::string>{
-          "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> S",
-          "[mensaje] Información del proyecto | Si desea guardar información, comience por dar "
-          "La información del proyecto en el menú archivo."}));
-  EXPECT_EQ(p.NúmeroPuntosTalud, 0);
-
-  InterfazConFiltros i;  // saved data: no question
-  ArchivoNuevo(p, i);
-  EXPECT_TRUE(i.Transcripción().empty());
-}
-
-TEST_F(Archivo, AbrirPreguntaSoloConDatosYListaSinGuardar) {
+TEST_F(Archivo, AbrirPreguntaSoloConDatosYListaSinGuardarYUnArchivoIlegibleNoCambiaNada) {
   ui.Responder("N");
   MenúArchivoAbrir(p, ui);
-  EXPECT_EQ(Renglones(ui),
-            std::vector<std::string>{"[pregunta]  | No ha guardado los datos actuales, ¿desea "
-                                     "continuar y abrir otro archivo? -> N"});
-  EXPECT_TRUE(ui.filtros.empty());
-  EXPECT_EQ(p.NúmeroPuntosTalud, 2);
-
+  EXPECT_EQ(Renglones(ui), Textos{P(kAbrirOtro, "N")});
   p.ListaGuardada = true;  // only the list saved: no question, the dialog at once
-  InterfazConFiltros i;
+  InterfazGuionada i;
   MenúArchivoAbrir(p, i);
-  EXPECT_EQ(Renglones(i), std::vector<std::string>{"[archivo] Abrir | "});
-  EXPECT_EQ(i.filtros, (std::vector<std::pair<std::string, int>>{{kFiltro, 2}}));
+  EXPECT_EQ(Renglones(i), Textos{"[archivo] Abrir | "});
   EXPECT_EQ(p.NúmeroPuntosTalud, 2);  // cancelled: nothing read
-}
 
-TEST_F(Archivo, AbrirUnArchivoIlegibleNoCambiaNada) {
   const std::string ruta = pruebas::CarpetaTemporal() + "/no-existe.cod";
-  ui.Responder("S");
-  ui.ArchivosElegidos({ruta});
+  p.ListaGuardada = false;
   p.Ventana.TipoPanel = 3;
-  MenúArchivoAbrir(p, ui);
-  const auto l = Renglones(ui);
+  InterfazGuionada j("S");
+  j.ArchivosElegidos({ruta});
+  MenúArchivoAbrir(p, j);
+  const auto l = Renglones(j);
   ASSERT_EQ(l.size(), 3u);
-  EXPECT_EQ(l[0],
-            "[pregunta]  | No ha guardado los datos actuales, ¿desea continuar y abrir otro "
-            "archivo? -> S");
+  EXPECT_EQ(l[0], P(kAbrirOtro, "S"));
   EXPECT_EQ(l[1], "[archivo] Abrir | " + ruta);
-  EXPECT_EQ(ui.Transcripción()[2].texto, "Error leyendo archivo");
+  EXPECT_EQ(j.Transcripción()[2].texto, "Error leyendo archivo");
   EXPECT_EQ(p.Ventana.Título, "[Nuevo proyecto] - Lomaterra");
   EXPECT_EQ(p.Ventana.TipoPanel, 3);
   EXPECT_EQ(p.NúmeroPuntosTalud, 2);  // the project open stays open
 }
 
-TEST_F(Archivo, SalirPreguntaSoloConDatosSinGuardar) {
-  ui.Responder("N");
-  MenúArchivoSalir(p, ui);
-  EXPECT_EQ(Renglones(ui),
-            std::vector<std::string>{
-                "[pregunta]  | No ha guardado los datos actuales, ¿desea guardarlos? -> N"});
-  EXPECT_TRUE(p.Ventana.SalirDelPrograma);
-
-  Proyecto q;
-  ReiniciarProyecto(q);
-  InterfazConFiltros i;
-  MenúArchivoSalir(q, i);
-  EXPECT_TRUE(i.Transcripción().empty());
-  EXPECT_TRUE(q.Ventana.SalirDelPrograma);
-}
-
-TEST_F(Archivo, AyudaYAcercaDe) {
-  MenúAyudaContenido(p, ui);
-  MenúAyudaAcercaDe(p, ui);
-  const auto& t = ui.Transcripción();
-  ASSERT_EQ(t.size(), 2u);
-  EXPECT_EQ(t[0].tipo, "ayuda");
-  EXPECT_EQ(t[0].texto, "AYUDALOMATERRA.HLP");
-  EXPECT_EQ(t[1].título, "Acerca de Lomaterra");
-  EXPECT_EQ(t[1].texto.rfind("Lomaterra 0.1.0", 0), 0u) << t[1].texto;
-}
-
 // The questions of a finite-element project, in their order.
-class ArchivoElementosFinitos : public Archivo {
- protected:
-  void SetUp() override {
-    Archivo::SetUp();
-    p.TipoDeAnálisis = "F";
-    p.CálculoHecho = false;
-  }
-  static std::string P(const std::string& texto, const char* r) {
-    return "[pregunta]  | " + texto + " -> " + r;
-  }
-};
-
-const std::string kNodos =
-    "No se ha dado las coordenadas de los nodos que definen los elementos finitos (Menú elementos "
-    "finitos), ¿Desea guardar y luego dar las coordenadas?";
-const std::string kElementos =
-    "No se han definido los elementos finitos a través de los respectivos nodos (Menú elementos "
-    "finitos), ¿Desea guardar y luego definir elementos?";
-const std::string kElásticas =
-    "No se ha dado las características elásticas  de los estratos (Menú elementos finitos, "
-    "Parámetros de los estratos), ¿Desea guardar y luego dar esta información?";
-const std::string kMateriales =
-    "No se ha asignado a cada elemento el material que los caracteriza. (Menú elementos finitos, "
-    "Caracterización de los elementos), ¿Desea guardar y luego dar esta información?";
-const std::string kRestringidos =
-    "No se ha definido los nodos con restricción de movimiento. (Menú elementos finitos, Nodos con "
-    "restricción), ¿Desea guardar y luego dar esta información?";
-const std::string kParámetrosSísmicos =
-    "No se ha dado algunos parámetros de los estratos para el análisis sísmico (para análisis "
-    "viscoplástico no es requerido). (Menú elementos finitos, Parámetros de los estratos para el "
-    "cálculo sísmico), ¿Desea guardar y luego dar esta información?";
-const std::string kRegistro =
-    "No se ha dado los valores de las aceleraciones del registro sísmico (para análisis "
-    "viscoplástico no es requerido). (Menú elementos finitos, Input de registro sísmico), ¿Desea "
-    "guardar y luego dar esta información?";
-const std::string kCálculoSísmico =
-    "Ud. no ha realizado el cálculo sísmico, ¿Desea guardar y luego calcular?";
-const std::string kViscoplástico =
-    "Ud. no ha realizado el cálculo viscoplástico, ¿Desea guardar y luego calcular?";
-
-TEST_F(ArchivoElementosFinitos, SueloSinNadaPreguntaTodoEnOrden) {
-  MenúArchivoGuardarComo(p, ui);  // no answers given: No, and the first question ends it
-  ASSERT_EQ(ui.Transcripción().size(), 1u);
-  EXPECT_EQ(Renglones(ui)[0], P(kNodos, "N"));
-
-  InterfazConFiltros i("SSSSSSSSSS");
-  MenúArchivoGuardarComo(p, i);
-  auto l = Renglones(i);
-  ASSERT_EQ(l.size(), 10u);
-  // The question on the modal shapes, checked by its two ends.
-  EXPECT_EQ(l[7].rfind("[pregunta]  | No se ha ordenado hacer el cálculo de los vectores de forma modales "
-                       "normalizados, y en consecuencia las frecuencias naturales (para análisis "
-                       "viscoplástico no es requerido).", 0), 0u);
-  EXPECT_NE(l[7].find("¿Desea guardar y luego se estiman estos valores.? -> S"), std::string::npos);
-  l.erase(l.begin() + 7);
-  EXPECT_EQ(l, (std::vector<std::string>{P(kNodos, "S"), P(kElementos, "S"), P(kElásticas, "S"),
-                                         P(kMateriales, "S"), P(kRestringidos, "S"),
-                                         P(kParámetrosSísmicos, "S"), P(kRegistro, "S"),
-                                         P(kViscoplástico, "S"), kDiálogoCancelado}));
-}
-
-TEST_F(ArchivoElementosFinitos, UnNoTerminaElGuardadoEnCadaPregunta) {
-  for (int k = 1; k <= 9; ++k) {
+TEST_F(Archivo, ElementosFinitosPreguntaTodoEnOrdenUnNoTerminaElGuardadoYUnSíSísmicoBasta) {
+  p.TipoDeAnálisis = "F";
+  p.CálculoHecho = false;
+  const Textos preguntas = {
+      "No se ha dado las coordenadas de los nodos que definen los elementos finitos (Menú "
+      "elementos finitos), ¿Desea guardar y luego dar las coordenadas?",
+      "No se han definido los elementos finitos a través de los respectivos nodos (Menú elementos "
+      "finitos), ¿Desea guardar y luego definir elementos?",
+      "No se ha dado las características elásticas  de los estratos (Menú elementos finitos, "
+      "Parámetros de los estratos), ¿Desea guardar y luego dar esta información?",
+      "No se ha asignado a cada elemento el material que los caracteriza. (Menú elementos "
+      "finitos, Caracterización de los elementos), ¿Desea guardar y luego dar esta información?",
+      "No se ha definido los nodos con restricción de movimiento. (Menú elementos finitos, Nodos "
+      "con restricción), ¿Desea guardar y luego dar esta información?",
+      "No se ha dado algunos parámetros de los estratos para el análisis sísmico (para análisis "
+      "viscoplástico no es requerido). (Menú elementos finitos, Parámetros de los estratos para el "
+      "cálculo sísmico), ¿Desea guardar y luego dar esta información?",
+      "No se ha dado los valores de las aceleraciones del registro sísmico (para análisis "
+      "viscoplástico no es requerido). (Menú elementos finitos, Input de registro sísmico), "
+      "¿Desea guardar y luego dar esta información?",
+      "No se ha ordenado hacer el cálculo de los vectores de forma modales normalizados, y en "
+      "consecuencia las frecuencias naturales (para análisis viscoplástico no es requerido). "
+      "(Menú elementos finitos, Estimación de las frecuencias naturales y Estimación de los "
+      "vectores de Forma Modales), ¿Desea guardar y luego se estiman estos valores.?",
+      "Ud. no ha realizado el cálculo viscoplástico, ¿Desea guardar y luego calcular?"};
+  Textos todo;
+  for (const auto& q : preguntas) todo.push_back(P(q, "S"));
+  todo.push_back(kDiálogoCancelado);
+  InterfazGuionada sí("SSSSSSSSSS");
+  MenúArchivoGuardarComo(p, sí);
+  EXPECT_EQ(Renglones(sí), todo);
+  for (std::size_t k = 0; k < preguntas.size(); ++k) {  // a No at question k ends it there
     SCOPED_TRACE(k);
-    InterfazConFiltros i(std::string(static_cast<std::size_t>(k - 1), 'S') + "N");
+    InterfazGuionada i(std::string(k, 'S') + "N");
     MenúArchivoGuardarComo(p, i);
-    EXPECT_EQ(i.Transcripción().size(), static_cast<std::size_t>(k));
-    EXPECT_TRUE(i.filtros.empty());
+    EXPECT_EQ(Renglones(i).size(), k + 1);
+    EXPECT_EQ(Renglones(i).back(), P(preguntas[k], "N"));
   }
-}
-
-TEST_F(ArchivoElementosFinitos, RocaCompletaConSismoSinCalcular) {
+  // Rock, complete, with seismic data not yet calculated.
+  const std::string sísmico =
+      "Ud. no ha realizado el cálculo sísmico, ¿Desea guardar y luego calcular?";
   p.TipoDeMaterial = "R";  // no elastic nor seismic parameters are asked for rock
   p.Malla.NodosDefinidos = p.Malla.ElementosDefinidos = p.Malla.MaterialesAsignados = true;
   p.Malla.NodosRestringidosDefinidos = true;
@@ -358,17 +284,15 @@ TEST_F(ArchivoElementosFinitos, RocaCompletaConSismoSinCalcular) {
   ui.Responder("S");
   MenúArchivoGuardarComo(p, ui);
   // A Yes to the seismic calculation skips the viscoplastic one.
-  EXPECT_EQ(Renglones(ui), (std::vector<std::string>{P(kCálculoSísmico, "S"), kDiálogoCancelado}));
-
-  InterfazConFiltros i("N");
+  EXPECT_EQ(Renglones(ui), (Textos{P(sísmico, "S"), kDiálogoCancelado}));
+  InterfazGuionada i("N");
   MenúArchivoGuardarComo(p, i);
-  EXPECT_EQ(Renglones(i), (std::vector<std::string>{P(kCálculoSísmico, "N")}));
-
+  EXPECT_EQ(Renglones(i), (Textos{P(sísmico, "N")}));
   p.Sísmico.SismoCalculado = true;  // seismic done, viscoplastic not: no question at all
   p.Sísmico.CálculoSísmicoHecho = true;
-  InterfazConFiltros j;
+  InterfazGuionada j;
   MenúArchivoGuardarComo(p, j);
-  EXPECT_EQ(Renglones(j), (std::vector<std::string>{kDiálogoCancelado}));
+  EXPECT_EQ(Renglones(j), (Textos{kDiálogoCancelado}));
 }
 
 }  // namespace
