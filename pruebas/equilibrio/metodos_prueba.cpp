@@ -10,8 +10,10 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "apoyo/apoyo.h"
 #include "equilibrio/acads_apoyo.h"
 #include "equilibrio/bishop.h"
 #include "equilibrio/dovelas.h"
@@ -20,7 +22,9 @@
 #include "equilibrio/janbu.h"
 #include "equilibrio/leshchinsky.h"
 #include "equilibrio/textos_apoyo.h"
+#include "proyecto/archivo.h"
 #include "proyecto/comandos.h"
+#include "proyecto/fallos.h"
 
 namespace lomaterra {
 namespace {
@@ -974,6 +978,42 @@ TEST(CargaPuntualEnElBorde, ActúaEnLasDosDovelasEnCadaMétodo) {
     const double enUna = Factor(c.método, c.correr, {{x + ε, 3.4, 0.4, 1}});
     EXPECT_NEAR(enBorde, enAmbas, 1e-6) << c.método;
     EXPECT_GT(std::abs(enBorde - enUna), 1e-3) << c.método;
+  }
+}
+
+// A Bishop stopped inside its radius search (No at a guard, no convergence, a fault) leaves the
+// project as the finished run before it: saved again, the file is the same byte for byte.
+TEST(BishopDetenido, CadaSalidaDejaElProyectoComoEstaba) {
+  const std::tuple<std::function<void(Proyecto&)>, int, const char*> salidas[] = {
+      {[](Proyecto& q) {
+         for (long i = 1; i < q.NúmeroBordes; ++i) q.TablaDovelas.PresiónPoros[i] = 1e4;
+       },
+       kLímitePasadas, "NSSN"},
+      // One pass: the run's own factor settles at once, the first radius of the search does not.
+      {[](Proyecto& q) { q.ParámetrosIniciales.FSInicial = 1e3; }, 1, "NSS"},
+      {[](Proyecto&) { throw FalloAritmético("división por cero"); }, kLímitePasadas, "NSS"},
+  };
+  for (const auto& [alBuscar, pasadas, respuestas] : salidas) {
+    Proyecto p;
+    InterfazGuionada ui("N", true);
+    ASSERT_TRUE(LeerProyecto(p, RutaEjemplo("bishop_radio_variable.cod"), ui));
+    ASSERT_EQ(EjecutarComando(MétodoBishop, p, ui), FinDeComando::Normal);
+    p.ParámetrosIniciales.FSInicial = p.HistoriaIteraciones.FactorDeSeguridad[p.NúmeroIteraciones];
+    const std::string ruta = CarpetaTemporal() + "/bishop.cod";
+    ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+    const std::string antes = LeerArchivo(ruta);
+    int etapas = 0;
+    OpcionesBishop o{[&](Proyecto& q, Interfaz& u) {
+                       EjecutarEtapas(q, u);
+                       if (++etapas == 1) alBuscar(q);
+                     },
+                     pasadas};
+    InterfazGuionada detenida(respuestas);
+    EjecutarComando([&](Proyecto& q, Interfaz& u) { MétodoBishopConOpciones(q, u, o); }, p, detenida);
+    EXPECT_EQ(etapas, 1) << respuestas;
+    for (const std::string& s : detenida.Textos()) EXPECT_EQ(s.find("Se finalizó"), s.npos);
+    ASSERT_TRUE(GuardarProyecto(p, ruta, ui));
+    EXPECT_EQ(LeerArchivo(ruta), antes) << respuestas;
   }
 }
 
