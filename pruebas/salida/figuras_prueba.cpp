@@ -190,7 +190,7 @@ TEST_F(Figuras, LaResistenciaAlCorteEsCMasSigmaEfectivoPorTanFi) {
   EXPECT_EQ(f.ejeY, "Esfuerzo cortante τ (ton/m2)");
   const Trazo* r = Buscar(f, "resistencia");
   const Trazo* m = Buscar(f, "movilizado");
-  ASSERT_TRUE(r && m);
+  ASSERT_TRUE(r && m && r->puntos.size() == 3 && m->puntos.size() == 3);
   ASSERT_EQ(f.trazos.size(), 3u);  // one envelope for the one material, then the two scatters
   EXPECT_EQ(r->leyenda, "Resistencia al corte c + σ' tan φ");
   EXPECT_EQ(m->leyenda, "Esfuerzo tangencial movilizado τ");

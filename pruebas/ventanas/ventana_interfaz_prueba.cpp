@@ -154,10 +154,11 @@ class VistaPrueba : public ::testing::Test {
 
 TEST_F(VistaPrueba, MuestraLosCamposLasListasYLosBotonesDeLaPantalla) {
   VistaPantalla vista(pantalla, guion);
-  // Values and read-only boxes as every real screen has them (VentanaPrueba); here the rest.
+  // The values of the boxes as every real screen has them (VentanaPrueba); here the rest.
   auto* valor = Hijo<QLineEdit>(vista, "TextoValor");
   ASSERT_NE(valor, nullptr);
   EXPECT_EQ(valor->toolTip(), "Un número cualquiera");
+  EXPECT_TRUE(Hijo<QLineEdit>(vista, "TextoResultado")->isReadOnly());
   bool etiqueta = false;
   for (QLabel* l : vista.findChildren<QLabel*>())
     if (l->text() == "Valor (ton/m2):" && l->buddy() == valor) etiqueta = true;
