@@ -38,41 +38,29 @@ inline Proyecto CasoTresDovelas() {
 
   auto& d = p.TablaDovelas;
   p.NúmeroBordes = 4;
-  for (auto* t : {&d.BordeX, &d.BordeYFalla, &d.BordeYTalud, &d.BordeYFreático})
-    t->Redimensionar(4);
-  const double bx[] = {0, 25, 20, 15, 8}, bf[] = {0, 10, 6, 2, 0}, bt[] = {0, 10, 10, 35.0 / 6, 0};
-  for (long i = 1; i <= 4; ++i) {
-    d.BordeX[i] = bx[i];
-    d.BordeYFalla[i] = bf[i];
-    d.BordeYTalud[i] = bt[i];
-  }
-  for (auto* t :
-       {&d.XMedio, &d.YBase, &d.YTalud, &d.YFreático, &d.Ancho, &d.CohesiónBase, &d.FricciónBase,
-        &d.TanFricciónBase, &d.PesoUnitarioMedio, &d.PresiónPoros, &d.ÁnguloBase, &d.FuerzaNormal,
-        &d.EsfuerzoNormalTotal, &d.EsfuerzoNormalEfectivo, &d.EsfuerzoTangencial})
-    t->Redimensionar(3);
-  const double sigma[] = {0, 5, 12, 8}, u[] = {0, 1, 3, 1.5};
+  Fijar(d.BordeX, {25, 20, 15, 8});
+  Fijar(d.BordeYFalla, {10, 6, 2, 0});
+  Fijar(d.BordeYTalud, {10, 10, 35.0 / 6, 0});
+  d.BordeYFreático.Redimensionar(4);
+  Fijar(d.XMedio, {22.5, 17.5, 11.5});
+  Fijar(d.Ancho, {5, 5, 7});
+  Fijar(d.YBase, {8, 4, 1});
+  Fijar(d.YFreático, {8, 4, 1});
+  Fijar(d.YTalud, {10, (10 + 35.0 / 6) / 2, 35.0 / 12});
+  Fijar(d.CohesiónBase, {1.5, 1.5, 1.5});
+  Fijar(d.FricciónBase, {30, 30, 30});
   const double tan30 = std::tan(std::atan(1.0) / 45.0 * 30);
-  for (long i = 1; i <= 3; ++i) {
-    d.XMedio[i] = 0.5 * (bx[i] + bx[i + 1]);
-    d.Ancho[i] = bx[i] - bx[i + 1];
-    d.YBase[i] = 0.5 * (bf[i] + bf[i + 1]);
-    d.YTalud[i] = 0.5 * (bt[i] + bt[i + 1]);
-    d.YFreático[i] = d.YBase[i];
-    d.CohesiónBase[i] = 1.5;
-    d.FricciónBase[i] = 30;
-    d.TanFricciónBase[i] = tan30;
-    d.PesoUnitarioMedio[i] = 1.8;
-    d.PresiónPoros[i] = u[i];
-    d.EsfuerzoNormalTotal[i] = sigma[i];
-    d.EsfuerzoNormalEfectivo[i] = sigma[i] - u[i];
-    d.EsfuerzoTangencial[i] = (1.5 + (sigma[i] - u[i]) * tan30) / 1.5;
-  }
+  Fijar(d.TanFricciónBase, {tan30, tan30, tan30});
+  Fijar(d.PesoUnitarioMedio, {1.8, 1.8, 1.8});
+  Fijar(d.PresiónPoros, {1, 3, 1.5});
+  Fijar(d.EsfuerzoNormalTotal, {5, 12, 8});
+  Fijar(d.EsfuerzoNormalEfectivo, {4, 9, 6.5});
+  auto tau = [&](double efectivo) { return (1.5 + efectivo * tan30) / 1.5; };
+  Fijar(d.EsfuerzoTangencial, {tau(4), tau(9), tau(6.5)});
+  for (auto* t : {&d.ÁnguloBase, &d.FuerzaNormal}) t->Redimensionar(3);
   p.NúmeroIteraciones = 3;
   p.HistoriaIteraciones.Redimensionar(3);
-  p.HistoriaIteraciones.FactorDeSeguridad[1] = 1.4;
-  p.HistoriaIteraciones.FactorDeSeguridad[2] = 1.48;
-  p.HistoriaIteraciones.FactorDeSeguridad[3] = 1.5;
+  Fijar(p.HistoriaIteraciones.FactorDeSeguridad, {1.4, 1.48, 1.5});
   p.SumaNormalesTotales = 25;
   p.SumaNormalesEfectivos = 19.5;
   for (long i = 1; i <= 3; ++i) p.SumaTangenciales += d.EsfuerzoTangencial[i];

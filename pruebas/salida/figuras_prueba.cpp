@@ -6,7 +6,6 @@
 #include <string>
 
 #include "apoyo/apoyo.h"
-#include "equilibrio/dovelas_apoyo.h"
 #include "equilibrio/fellenius.h"
 #include "pantallas/resultados.h"
 #include "proyecto/comandos.h"
@@ -169,7 +168,6 @@ TEST_F(Figuras, CadaSerieDeUnGráficoEsUnaColumnaDeLasDovelasEnAbscisaCreciente)
     const Figura f = FiguraGráfico(p, c.nombre);
     SCOPED_TRACE(c.nombre);
     EXPECT_EQ(f.tipo, Figura::Tipo::Gráfico);
-    EXPECT_EQ(f.nombre, c.nombre);
     EXPECT_FALSE(f.título.empty());
     EXPECT_EQ(f.ejeX, "Abscisa X del centro de la base (m)");
     EXPECT_NE(f.ejeY.find("(ton/m2)"), std::string::npos);
@@ -192,7 +190,11 @@ TEST_F(Figuras, LaResistenciaAlCorteEsCMasSigmaEfectivoPorTanFi) {
   EXPECT_EQ(f.ejeY, "Esfuerzo cortante τ (ton/m2)");
   const Trazo* r = Buscar(f, "resistencia");
   const Trazo* m = Buscar(f, "movilizado");
-  ASSERT_TRUE(r && m);
+  ASSERT_TRUE(r && m && r->puntos.size() == 3 && m->puntos.size() == 3);
+  ASSERT_EQ(f.trazos.size(), 3u);  // one envelope for the one material, then the two scatters
+  EXPECT_EQ(r->leyenda, "Resistencia al corte c + σ' tan φ");
+  EXPECT_EQ(m->leyenda, "Esfuerzo tangencial movilizado τ");
+  EXPECT_TRUE(r->sinLínea && m->sinLínea);
   // σ' sorted: 4, 6.5, 9; c = 1.5, tan 30° = 1/√3; the mobilised shear is the strength over F
   // = 1.5.
   const double sn[] = {4, 6.5, 9};
@@ -205,6 +207,7 @@ TEST_F(Figuras, LaResistenciaAlCorteEsCMasSigmaEfectivoPorTanFi) {
   // One Mohr-Coulomb line for the one material, from σ' = 0 to the largest σ'.
   const Trazo* e = Buscar(f, "envolvente 1");
   ASSERT_NE(e, nullptr);
+  EXPECT_TRUE(e->puntos.size() == 2 && !e->sinLínea);  // a line from σ' = 0 to the largest
   EXPECT_EQ(e->leyenda, "c = 1.50 ton/m2, φ = 30.0°");
   EXPECT_NEAR(e->puntos.back().y, 1.5 + 9 / std::sqrt(3.0), 1e-12);
 }
@@ -267,15 +270,9 @@ TEST(TrasAbrir, LasDovelasSeRehacenDeSusMediosYAnchos) {
 // Fellenius on a circular surface: the result screen, the charts and the section read what the
 // method left.
 TEST(TrasFellenius, LaPantallaYLosGráficosLeenLoQueDejóElMétodo) {
-  using namespace pruebas;
-  Proyecto p = ProyectoDeSuelo(8);
-  PonerLínea(p.CoordenadasTalud, p.NúmeroPuntosTalud, {{30, 10}, {20, 10}, {5, 0}, {-5, 0}});
-  PonerLínea(p.CoordenadasFalla, p.NúmeroPuntosFalla, {{20, 10}, {5, 0}});
-  PonerLínea(p.CoordenadasFreático, p.NúmeroPuntosFreático, {{30, 7}, {-5, -2}});
-  PonerTramos(p, {{1, 2, "C"}});
-  AñadirEstrato(p, {{40, -20}, {-20, -20}}, {.cohesión = 1, .fricción = 30});
-  p.ParámetrosIniciales.Radio = 15;
+  Proyecto p;  // 20 slices under a circle of radius 25
   InterfazGuionada corrida("N");
+  ASSERT_TRUE(LeerProyecto(p, pruebas::RutaEjemplo("talud_homogeneo.cod"), corrida));
   ASSERT_EQ(EjecutarComando(MétodoFellenius, p, corrida), FinDeComando::Normal);
   ASSERT_TRUE(HayResultados(p));
   // Fellenius leaves CálculoHecho as it was; the screen and the charts show its results.
@@ -291,19 +288,19 @@ TEST(TrasFellenius, LaPantallaYLosGráficosLeenLoQueDejóElMétodo) {
     EXPECT_TRUE(normal);
   });
   ResultadosCálculoSuelos(p, ui);
-  EXPECT_EQ(filas, 8);
+  EXPECT_EQ(filas, 20);
   const Figura f = FiguraGráfico(p, "GráficoEsfuerzoNormalesEfectivos");
   ASSERT_EQ(f.trazos.size(), 1u);
-  EXPECT_EQ(f.trazos[0].puntos.size(), 8u);
+  EXPECT_EQ(f.trazos[0].puntos.size(), 20u);
   // The section follows the slice edges, all of them on the arc.
   const Figura s = FiguraSección(p);
   for (const auto& t : s.trazos)
     if (t.nombre == "falla") {
-      ASSERT_EQ(t.puntos.size(), 9u);
+      ASSERT_EQ(t.puntos.size(), 21u);
       for (const auto& q : t.puntos)
         EXPECT_NEAR(
             std::hypot(q.x - p.ParámetrosIniciales.CentroX, q.y - p.ParámetrosIniciales.CentroY),
-            15, 1e-6);
+            25, 1e-6);
     }
 }
 
@@ -326,12 +323,10 @@ Proyecto DosTriángulos() {
   MallaElementos& m = p.Malla;
   const double x[5] = {0, 0, 1, 1, 0}, y[5] = {0, 0, 0, 1, 1};
   m.NúmeroDeNodos = 4;
-  m.Nodo.Redimensionar(4);
-  for (long n = 1; n <= 4; ++n) {
-    m.Nodo.NúmeroDeNodo[5 - n] = static_cast<Entero>(n);
-    m.Nodo.XNodo[5 - n] = x[n];
-    m.Nodo.YNodo[5 - n] = y[n];
-  }
+  m.Nodo.Redimensionar(4);  // stored from node 4 down to node 1
+  for (long n = 1; n <= 4; ++n) m.Nodo.NúmeroDeNodo[5 - n] = static_cast<Entero>(n);
+  pruebas::Fijar(m.Nodo.XNodo, {0, 1, 1, 0});
+  pruebas::Fijar(m.Nodo.YNodo, {1, 1, 0, 0});
   m.NúmeroDeElementos = 2;
   m.Elemento.Redimensionar(2);
   const long nodos[3][4] = {{0}, {0, 1, 2, 3}, {0, 1, 3, 4}};

