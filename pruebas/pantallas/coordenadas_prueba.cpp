@@ -402,9 +402,10 @@ TEST_F(ArchivoLateral, LecturaCompletaConUnNivelFreáticoDeCeroPuntos) {
   // Without a base folder given the folder hangs from the user's home.
   ::unsetenv("LOMATERRA_CARPETA_BASE");
   const char* casa = std::getenv("HOME");
-  if (casa != nullptr && *casa != '\0')
+  if (casa != nullptr && *casa != '\0') {
     EXPECT_EQ(RutaArchivoTaludEstratosNF(),
               std::string(casa) + "/CarpetaTaludEstratoNF/taludestratosNF.cod");
+  }
 }
 
 TEST_F(ArchivoLateral, ConTaludYaDadoPreguntaPrimeroYSinArchivoNadaCambia) {

@@ -992,9 +992,16 @@ using Filas = std::vector<std::vector<std::string>>;
 const std::string kSolución = "¿Considera que es la solución?";
 const std::string kSalir = "¿Desea salir del cálculo?";
 
-TEST(Form9, LasDosPreguntasFijanLasBanderas) {
+TEST(Form9, MuestraElPasoConSusFormatosYLasDosPreguntasFijanLasBanderas) {
   Proyecto p;
   p.HistoriaIteraciones.Redimensionar(100);
+  p.NúmeroIteraciones = 3;
+  p.HistoriaIteraciones.Multiplicador1[3] = 39.3498123456789;
+  p.HistoriaIteraciones.Multiplicador2[3] = 56.30846;
+  p.HistoriaIteraciones.FactorDeSeguridad[3] = 0.98722564512;
+  p.SumaFuerzasHorizontales = 0.004;
+  p.SumaFuerzasVerticales = -12.345;
+  p.SumaMomentos = 1234.5678;
   const std::tuple<const char*, bool, bool, Textos> casos[] = {
       {"S", true, false, {kSolución}},
       {"NS", false, true, {kSolución, kSalir}},
@@ -1009,6 +1016,13 @@ TEST(Form9, LasDosPreguntasFijanLasBanderas) {
     EXPECT_EQ(p.SalirDelCálculo, salir) << respuestas;
     EXPECT_TRUE(pantalla.cerrada);
   }
+  for (const auto& [caja, valor] : pruebas::Cajas{
+           {"TextoNúmeroIteraciones", "3"}, {"TextoMultiplicador1", "39.349812346"},
+           {"TextoMultiplicador2", "56.308460000"}, {"TextoDelFactorDeSeguridad", "0.987225645"},
+           {"TextoDeLaSumaDeFuerzasHorizontales", "0.00 ton"},
+           {"TextoDeLaSumaDeFuerzasVerticales", "-12.35 ton"},
+           {"TextoDeLaSumaDeMomentos", "1234.57 ton.m"}})
+    EXPECT_EQ(pantalla.texto(caja), valor) << caja;
 }
 
 // Four slices after step 2 of an iteration: c = 1, tanφ = 0.5 (limit −2 on the effective stress),
