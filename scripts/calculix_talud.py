@@ -27,26 +27,9 @@ import generar_ejemplo_elementos as g  # noqa: E402
 
 
 def malla():
-    nodos = {}
-    for i in range(g.COLUMNAS + 1):
-        x0 = g.ANCHO * i / g.COLUMNAS
-        ys = g.ordenada_talud(x0)
-        for j in range(g.FILAS + 1):
-            dx = 0.001 * ((3 * i + 5 * j) % 7 + 1)
-            dy = 0.001 * ((5 * i + 3 * j) % 7 + 1)
-            y = ys * j / g.FILAS
-            y = y - dy if j == g.FILAS else y + dy
-            nodos[g.numero(i, j)] = (x0 + dx if i < g.COLUMNAS else x0 - dx, y)
-    elementos = []
-    fijos = []
-    for i in range(g.COLUMNAS):
-        for j in range(g.FILAS):
-            a, b, c, d = g.numero(i, j), g.numero(i + 1, j), g.numero(i + 1, j + 1), g.numero(i, j + 1)
-            elementos += [(a, b, c), (a, c, d)]
-    for i in range(g.COLUMNAS + 1):
-        for j in range(g.FILAS + 1):
-            if j == 0 or i in (0, g.COLUMNAS):
-                fijos.append(g.numero(i, j))
+    nodos, elementos, numero = g.malla()
+    fijos = [numero(i, j) for i in range(g.COLUMNAS + 1) for j in range(g.FILAS + 1)
+             if j == 0 or i in (0, g.COLUMNAS)]
     return nodos, elementos, sorted(fijos)
 
 
@@ -71,7 +54,7 @@ def deck(carpeta):
 
 
 def deck_rodillos(carpeta):
-    nodos, elementos, _ = malla()
+    nodos, elementos, numero = g.malla()
     with open(os.path.join(carpeta, "talud_rodillos.inp"), "w") as f:
         f.write("*HEADING\nTalud de ejemplo de Lomaterra, peso propio, sobre rodillos\n*NODE\n")
         for n in sorted(nodos):
@@ -83,9 +66,9 @@ def deck_rodillos(carpeta):
         for i in range(g.COLUMNAS + 1):
             for j in range(g.FILAS + 1):
                 if i in (0, g.COLUMNAS):
-                    f.write("%d, 1, 1\n" % g.numero(i, j))
+                    f.write("%d, 1, 1\n" % numero(i, j))
                 if j == 0:
-                    f.write("%d, 2, 2\n" % g.numero(i, j))
+                    f.write("%d, 2, 2\n" % numero(i, j))
         f.write("*MATERIAL, NAME=Suelo\n*ELASTIC\n2000., 0.3\n*DENSITY\n1.8\n")
         f.write("*SOLID SECTION, ELSET=Eall, MATERIAL=Suelo\n1.\n")
         f.write("*STEP\n*STATIC\n*DLOAD\nEall, GRAV, 1., 0., -1., 0.\n")

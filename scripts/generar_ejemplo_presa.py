@@ -19,6 +19,9 @@ import math
 import os
 import sys
 
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+from borrador_cod import Borrador, rejilla  # noqa: E402
+
 ALTO, CORONA, TALUD_H = 10.0, 8.0, 2.0
 BASE = CORONA + 2 * TALUD_H * ALTO  # 48 m
 COLUMNAS, FILAS = 9, 5
@@ -39,128 +42,31 @@ def registro():
     return filas
 
 
-def numero(i, j):
-    return 1 + i * (FILAS + 1) + j
-
-
 def main(ruta):
-    nodos = {}
-    for i in range(COLUMNAS + 1):
-        for j in range(FILAS + 1):
-            y0 = ALTO * j / FILAS
-            xi, xd = TALUD_H * y0, BASE - TALUD_H * y0
-            x0 = xi + (xd - xi) * i / COLUMNAS
-            dx = 0.001 * ((3 * i + 5 * j) % 7 + 1)
-            dy = 0.001 * ((5 * i + 3 * j) % 7 + 1)
-            y = y0 - dy if j == FILAS else y0 + dy
-            nodos[numero(i, j)] = (x0 + dx if i < COLUMNAS else x0 - dx, y)
-    elementos = []
-    for i in range(COLUMNAS):
-        for j in range(FILAS):
-            a, b, c, d = numero(i, j), numero(i + 1, j), numero(i + 1, j + 1), numero(i, j + 1)
-            elementos += [(a, b, c), (a, c, d)]
-    restricciones = [(numero(i, 0), "N", "N") for i in range(COLUMNAS + 1)]
-    restricciones.sort()
+    def posicion(i, j):
+        y0 = ALTO * j / FILAS
+        xi, xd = TALUD_H * y0, BASE - TALUD_H * y0
+        return xi + (xd - xi) * i / COLUMNAS, y0
 
-    L = []
-
-    def linea(*items):
-        out = []
-        for v in items:
-            if isinstance(v, str):
-                out.append('"%s"' % v)
-            elif isinstance(v, int):
-                out.append(str(v))
-            else:
-                out.append("%.15g" % v)
-        L.append(",".join(out))
-
-    for s in ["Presa de tierra de 10 m con registro sísmico (ejemplo)", "K0+000", "K0+048",
-              "2026-11-23", "Lomaterra", "Ejemplo", "F"]:
-        linea(s)
-    linea(2)  # CálculoSísmicoHecho
-    linea("S")
-    estrato = [(BASE, 0.0), (0.0, 0.0)]
-    linea(1, len(estrato), 1)
-    linea(len(estrato))
-    for v in (2.0, 32.0, 1.8, 2.0):  # cohesion, friction, moist and saturated weight
-        linea(v)
-    linea(0)
-    for v in (0.0, 0.0, 0.0):
-        linea(v)
-    for x, y in estrato:
-        linea(x, y)
-    linea(len(TALUD))
-    for x, y in TALUD:
-        linea(x, y)
-    linea(len(FREATICO))
-    for x, y in FREATICO:
-        linea(x, y)
-    linea(1)
-    linea(len(nodos))
-    for n in sorted(nodos, reverse=True):
-        x, y = nodos[n]
-        linea(n, x, y, 0.0)
-    linea(len(elementos))
-    linea(3, len(elementos))
-    for e in elementos:
-        linea(3, 1.0, 2.0, 2.0, 2.0)
-        for n in e:
-            linea(float(n))
-    linea(1)
-    for v in (30000.0, 0.3, 0.01, 0.5):  # E (t/m2), Poisson, viscosity, Ko
-        linea(v)
-    linea(0.01)
-    linea(2)
-    linea(1.0)
-    linea(1)
-    for _ in elementos:
-        linea(1.0)
-    linea(1)
-    linea(len(restricciones))
-    for n, rx, ry in restricciones:
-        linea(float(n), rx, ry, "N")
-        linea(0.0, 0.0, 0.0)
-    linea(2)  # no loads on element sides
-    linea("T")
-    linea(0.0, 0.0)
-    linea(2)
-    linea(0)
-    linea("N")
-    linea("N")
-    for e in elementos:
-        xs = [nodos[n][0] for n in e]
-        ys = [nodos[n][1] for n in e]
-        linea(sum(xs) / 3, sum(ys) / 3)
-    for e in elementos:
-        for n in e:
-            linea(float(n), nodos[n][0], nodos[n][1])
-    linea(1)  # seismic parameters of the stratum
+    nodos, elementos, numero = rejilla(COLUMNAS, FILAS, posicion)
+    restricciones = sorted((numero(i, 0), "N", "N", 0.0, 0.0) for i in range(COLUMNAS + 1))
+    b = Borrador()
+    b.malla(["Presa de tierra de 10 m con registro sísmico (ejemplo)", "K0+000", "K0+048",
+             "2026-11-23", "Lomaterra", "Ejemplo"], [(BASE, 0.0), (0.0, 0.0)],
+            (2.0, 32.0, 1.8, 2.0), TALUD, FREATICO, nodos, elementos, (30000.0, 0.3, 0.01, 0.5))
+    b.restricciones(restricciones, nodos, elementos)
+    b.linea(1)  # seismic parameters of the stratum
     for v in (250.0, 1e-06, 0.6, 0.0, 0.0, 0.0):  # Vs, distortion, e, Cu, Ip, OCR
-        linea(v)
-    linea(1)  # decides the stability
-    linea(1)  # Gmax from the wave velocity
-    linea(ALTO)
+        b.linea(v)
+    b.linea(1)  # decides the stability
+    b.linea(1)  # Gmax from the wave velocity
+    b.linea(ALTO)
     filas = registro()
-    linea(1)
-    linea(len(filas))
+    b.linea(1)
+    b.linea(len(filas))
     for t, h, v in filas:
-        linea(t, h, v)
-    linea(2)
-    linea(0.0, 0.0)
-    linea(0)
-    linea(0.0, 0)
-    linea(2)
-    linea(2)
-    linea(2)
-    linea(0)
-    linea(0)
-    linea(2)
-    linea(0.0)
-    linea(0.0)
-    linea(0)
-    with open(ruta, "wb") as f:
-        f.write(("\r\n".join(L) + "\r\n").encode("cp1252"))
+        b.linea(t, h, v)
+    b.guardar(ruta)
     lateral = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "ejemplos_laterales",
                            "CarpetaRegistroSismico", "registrosismico.cod")
     os.makedirs(os.path.dirname(lateral), exist_ok=True)
