@@ -222,6 +222,33 @@ TEST_F(Variacional, LosFinesDelPrimerPasoNoGuardanNada) {
   }
 }
 
+// A run that never gets anywhere: each time the iteration screen opens, the row just made is put
+// back to the first row, so the same first step repeats and the sums never pass. The history is
+// full after 99 steps, and the run ends with its message and nothing stored.
+TEST_F(Variacional, LaHistoriaLlenaTerminaSinResultados) {
+  Preparar(12, 40, 55, 1, -0.1);
+  MarcarResultados();
+  InterfazEspía ui("NN");
+  int pantallas = 0;
+  ui.alAbrir = [&](Pantalla& s) {
+    if (s.nombre != "form9") return;
+    ++pantallas;
+    const long k = p.NúmeroIteraciones;
+    auto& h = p.HistoriaIteraciones;
+    h.Multiplicador1[k] = h.Multiplicador1[1];
+    h.Multiplicador2[k] = h.Multiplicador2[1];
+    h.FactorDeSeguridad[k] = h.FactorDeSeguridad[1];
+    for (int j = 1; j <= n + 1; ++j) p.EsfuerzoIteración(j, k) = p.EsfuerzoIteración(j, 1);
+  };
+  EXPECT_EQ(EjecutarComando(ProcesoIterativoEnSuelos, p, ui), FinDeComando::Normal);
+  EXPECT_EQ(pantallas, 99);
+  EXPECT_EQ(p.NúmeroIteraciones, kFilasHistoria);
+  EXPECT_EQ(ui.Transcripción().back().título, kTítuloLímiteHistoria);
+  EXPECT_EQ(ui.Transcripción().back().texto, kTextoLímiteHistoria);
+  EXPECT_FALSE(p.CálculoHecho);
+  ExpectResultadosIntactos();
+}
+
 TEST_F(Variacional, ElEsfuerzoDeLaCrestaEsElValorDeBorde) {
   // Each step starts from the table; the crest entry scribbled over while a screen is open does
   // not travel to the next step.
