@@ -177,10 +177,7 @@ void PantallaResultadosSísmicos::Llenar(long paso) {
   if (paso < 1) return;
   for (long r = 1; r <= m.NúmeroDeNodos; ++r) {
     const long k = m.Nodo.NúmeroDeNodo.Leer(r);
-    ln.filas.push_back({std::to_string(k), F3(s.DesplazamientoSísmico.Leer(paso, 2 * k - 1)),
-                        F3(s.DesplazamientoSísmico.Leer(paso, 2 * k)), F3(s.AceleraciónSísmica.Leer(paso, 2 * k - 1)),
-                        F3(s.AceleraciónSísmica.Leer(paso, 2 * k)), F3(s.VelocidadSísmica.Leer(paso, 2 * k - 1)),
-                        F3(s.VelocidadSísmica.Leer(paso, 2 * k))});
+    ln.filas.push_back(FilaDeNodoSísmico(s, paso, k));
   }
   for (long e = 1; e <= m.NúmeroDeElementos; ++e)
     le.filas.push_back({std::to_string(e), F3(s.EsfuerzoX.Leer(paso, e)), F3(s.EsfuerzoY.Leer(paso, e)),

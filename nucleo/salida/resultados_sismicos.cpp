@@ -257,6 +257,13 @@ Figura FiguraDeMallaSísmica(const Proyecto& p, const std::string& nombre, long 
   return f;
 }
 
+std::vector<std::string> FilaDeNodoSísmico(const DatosSísmicos& s, long paso, long k) {
+  std::vector<std::string> fila{std::to_string(k)};
+  for (const auto* h : {&s.DesplazamientoSísmico, &s.AceleraciónSísmica, &s.VelocidadSísmica})
+    for (const long g : {2 * k - 1, 2 * k}) fila.push_back(F3(h->Leer(paso, g)));
+  return fila;
+}
+
 Informe InformeSísmico(const Proyecto& p) {
   const DatosSísmicos& s = p.Sísmico;
   const MallaElementos& m = p.Malla;
@@ -290,10 +297,7 @@ Informe InformeSísmico(const Proyecto& p) {
     n.columnas = {"Pto Cord.", "desp_x", "desp_y", "acel_x", "acel_y", "vel_x", "vel_y"};
     for (long r = 1; r <= m.NúmeroDeNodos; ++r) {
       const long k = m.Nodo.NúmeroDeNodo.Leer(r);
-      n.filas.push_back({std::to_string(k), F3(s.DesplazamientoSísmico.Leer(paso, 2 * k - 1)),
-                         F3(s.DesplazamientoSísmico.Leer(paso, 2 * k)), F3(s.AceleraciónSísmica.Leer(paso, 2 * k - 1)),
-                         F3(s.AceleraciónSísmica.Leer(paso, 2 * k)), F3(s.VelocidadSísmica.Leer(paso, 2 * k - 1)),
-                         F3(s.VelocidadSísmica.Leer(paso, 2 * k))});
+      n.filas.push_back(FilaDeNodoSísmico(s, paso, k));
     }
     inf.AñadirTabla(n);
     TablaDeTexto e;

@@ -45,6 +45,10 @@ double TiempoDelPaso(const Proyecto& p, long t);
 // stopped by the user or by a fault.
 std::string EstadoDelCálculoSísmico(const Proyecto& p);
 
+// One node at step `paso` as the result screen and the report list it: the node number, then
+// displacement (cm), acceleration and velocity, each x then y, with three decimals.
+std::vector<std::string> FilaDeNodoSísmico(const DatosSísmicos& s, long paso, long nodo);
+
 // The printed report of the seismic run: run data and how it ended, the largest displacement,
 // the factor of safety, the node and element tables of the chosen step (or the last computed),
 // the largest displacement per step and the main figures.
